@@ -1,0 +1,22 @@
+// Conversion between the program's UTF-8 text and the one-byte Windows-1252 text of its files.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace griglione {
+
+// Windows-1252 bytes to UTF-8. Bytes that code page leaves undefined map to the same code point.
+std::string fromAnsi(std::string_view bytes);
+
+// UTF-8 to Windows-1252 bytes; a character the code page cannot hold becomes '?'.
+std::string toAnsi(std::string_view utf8);
+
+// Upper case of Windows-1252 text, accented letters included (à → À, œ → Œ, ÿ → Ÿ).
+std::string upperAnsi(std::string_view bytes);
+
+// The same text with lower-case A–Z only changed; words on the board are plain ASCII.
+std::string lowerAscii(std::string_view text);
+std::string upperAscii(std::string_view text);
+
+} // namespace griglione

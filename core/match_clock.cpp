@@ -1,0 +1,34 @@
+#include "core/match_clock.h"
+
+#include "core/levels.h"
+#include "core/number_text.h"
+
+namespace griglione {
+
+bool countSecond(GameState& state) {
+    ++state.secondiTrascorsi;
+    return state.secondiTrascorsi > state.tempoPartita;
+}
+
+int timeBarWidth(int innerWidth, int tempoPartita, int seconds) {
+    if (tempoPartita <= 0) return 0;
+    const double x = static_cast<double>(innerWidth) / tempoPartita * seconds;
+    return roundHalfEven(x).value_or(innerWidth);
+}
+
+std::string secondsLabel(int seconds) { return std::to_string(seconds) + "s"; }
+
+Messaggio startMessage(const GameState& state, const std::array<bool, 4>& levelChecked) {
+    // Several level items can be checked after reading an odd settings file; the last of this
+    // order wins.
+    std::string level;
+    for (int i : {Junior, Principiante, Esperto, Medio})
+        if (levelChecked[i]) level = kLevels[i].name;
+    return {"START", "Inizio partita",
+            "Si inizia una nuova partita di " + std::to_string(state.tempoPartita) +
+                " secondi.\r\nIl dizionario usato è : " + state.nomeDizionario +
+                "\r\nIl livello dell'avversario è : " + level +
+                "\r\nCliccare il pulsante <OK> per giocare."};
+}
+
+} // namespace griglione
