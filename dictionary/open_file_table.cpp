@@ -1,0 +1,38 @@
+#include "dictionary/open_file_table.h"
+
+namespace griglione {
+
+bool OpenFileTable::open(FileSlot slot, const std::filesystem::path& path) {
+    close(slot);
+    auto file = std::make_unique<std::ifstream>(path, std::ios::binary);
+    if (!*file) return false;
+    Entry& e = entry(slot);
+    e.file = std::move(file);
+    ++e.generation;
+    return true;
+}
+
+void OpenFileTable::close(FileSlot slot) {
+    Entry& e = entry(slot);
+    if (!e.file) return;
+    e.file.reset();
+    ++e.generation;
+}
+
+void OpenFileTable::closeAll() {
+    close(FileSlot::Scan);
+    close(FileSlot::Opponent);
+}
+
+bool OpenFileTable::read(FileSlot slot, std::int64_t position, std::size_t length,
+                         std::string& out) {
+    Entry& e = entry(slot);
+    if (!e.file || position < 1) return false;
+    e.file->clear();
+    e.file->seekg(position - 1);
+    out.resize(length);
+    e.file->read(out.data(), static_cast<std::streamsize>(length));
+    return static_cast<std::size_t>(e.file->gcount()) == length;
+}
+
+} // namespace griglione

@@ -1,0 +1,34 @@
+#include "dictionary/rules_text.h"
+
+#include "core/ansi_text.h"
+#include "core/atomic_file.h"
+#include "core/file_names.h"
+#include "dictionary/personal_vocabulary.h"
+
+namespace griglione {
+
+std::optional<std::string> readRulesText(const std::filesystem::path& folder,
+                                         std::string_view lineEnd) {
+    const auto bytes = readWholeFile(resolveFileName(folder, kRulesFileName));
+    if (!bytes) return std::nullopt;
+    std::string text;
+    for (const std::string& line : textLines(*bytes)) text.append(fromAnsi(line)).append(lineEnd);
+    return text;
+}
+
+const std::string& RulesText::text(Alerts& alerts) {
+    if (m_cached.empty()) {
+        if (auto text = readRulesText(m_folder, "\r\n"))
+            m_cached = std::move(*text);
+        else
+            alerts.avviso("ERRORE 0001: File contenente le regole sulle parole non trovato: " +
+                          std::string(kRulesFileName));
+    }
+    return m_cached;
+}
+
+std::string rulesForConfirmation(const std::filesystem::path& folder) {
+    return readRulesText(folder, "\r\n").value_or("File REGPAROL.txt non trovato");
+}
+
+} // namespace griglione
