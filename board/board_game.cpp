@@ -1,0 +1,93 @@
+#include "board/board_game.h"
+
+#include "board/board_layout.h"
+
+namespace griglione {
+
+BoardGame::BoardGame(GameState& state, Dealer& dealer, Sounds& sounds, Messages& messages,
+                     GameView& view)
+    : m_state(state), m_dealer(dealer), m_sounds(sounds), m_messages(messages), m_view(view) {}
+
+void BoardGame::lanciaDadi(bool conLettere) {
+    if (m_state.numDizionario == 0) m_state.numDizionario = 1;
+    azzeraParola();
+    m_state.paroleGiocatore.clear();
+    m_state.paroleCPU.clear();
+    m_state.puntiGiocatore = 0;
+    m_state.puntiCPU = 0;
+    m_dealer.deal(m_state, conLettere);
+    m_path.hideAll();
+    m_view.changed(Aspect::PlayerWords);
+    m_view.changed(Aspect::CpuWords);
+    m_view.changed(Aspect::Scores);
+    m_view.changed(Aspect::TimeBar);
+    m_view.changed(Aspect::Board);
+    m_view.changed(Aspect::Path);
+}
+
+void BoardGame::azzeraParola() {
+    m_state.ultimaCella = -1;
+    m_state.parolaComposta.clear();
+    m_path.hideAll();
+    m_state.cellaUsata.fill(false);
+    m_view.changed(Aspect::Word);
+    m_view.changed(Aspect::Path);
+    m_view.changed(Aspect::TimeBar);
+}
+
+void BoardGame::azzera() {
+    m_sounds.suona("COLLAPSE.WAV");
+    azzeraParola();
+}
+
+void BoardGame::turnDie(int n) {
+    const char letter = letteraCella(m_state, n);
+    if (letter == '\0') return;
+    const int face = facciaCella(m_state, n) % 4 + 1;
+    m_state.immagineCella[n] = dieName(letter, face);
+    m_view.changed(Aspect::Board);
+    m_sounds.suona("SND0230.wav");
+}
+
+PressResult BoardGame::press(int n, int button, bool matchRunning) {
+    if (n < 0 || n >= kCells) return PressResult::Refused;
+    if (!matchRunning) return PressResult::StartMatch;
+    if (m_state.cellaUsata[n] && button != kRightButton) {
+        m_sounds.beep();
+        return PressResult::Refused;
+    }
+    if (button == kRightButton) {
+        turnDie(n);
+        return PressResult::Turned;
+    }
+    m_sounds.suona("SND0002.wav");
+    m_state.cellaUsata[n] = true;
+    const int p = m_state.ultimaCella;
+    if (p == -1) {
+        m_path.start(n);
+    } else if (!celleAdiacenti(p, n)) {
+        m_sounds.beep();
+        m_state.cellaUsata[n] = false;
+        m_state.messaggio = {"OOPS!", "Lettera non adiacente",
+                             "Attenzione : La lettera deve essere adiacente a quella cliccata in "
+                             "precedenza! Per scrivere una nuova parola cliccare il pulsante "
+                             "<Azzera>"};
+        m_messages.mostraMessaggio(m_state.messaggio, false);
+        return PressResult::NotAdjacent;
+    } else {
+        m_path.connect(p, n);
+    }
+    m_state.parolaComposta += letteraCella(m_state, n);
+    m_state.ultimaCella = static_cast<std::int16_t>(n);
+    m_view.changed(Aspect::Path);
+    m_view.changed(Aspect::Word);
+    return PressResult::Selected;
+}
+
+void BoardGame::blink() {
+    if (m_state.ultimaCella < 0) return;
+    m_path.toggleBlink(m_state.ultimaCella);
+    m_view.changed(Aspect::Path);
+}
+
+} // namespace griglione

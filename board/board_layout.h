@@ -1,0 +1,45 @@
+// Where the cells are and how they touch: numbering, rows and columns, and the board's frame.
+#pragma once
+
+#include "core/game_state.h"
+
+#include <array>
+#include <string>
+
+namespace griglione {
+
+inline constexpr std::string_view kBlankDie = "zarMolo.gif";
+
+// Row and column counted from 1, as the adjacency test counts them.
+constexpr int rigaCella(int n) { return n / kBoardSide + 1; }
+constexpr int colonnaCella(int n) { return n % kBoardSide + 1; }
+
+// True when the two cells touch horizontally, vertically or diagonally. Comparing rows and
+// columns keeps a step from wrapping around the edge: cells 4 and 5 do not touch.
+constexpr bool celleAdiacenti(int p, int n) {
+    const int dr = rigaCella(n) - rigaCella(p);
+    const int dc = colonnaCella(n) - colonnaCella(p);
+    return dr >= -1 && dr <= 1 && dc >= -1 && dc <= 1;
+}
+
+// "zarMmgA3.gif" for letter A, face 3.
+std::string dieName(char letter, int face);
+
+// The letter of a dealt cell (7th character of its picture name); '\0' when there is none.
+char letteraCella(const GameState& state, int n);
+
+// The face digit 1–4 of a dealt cell; 0 when there is none.
+int facciaCella(const GameState& state, int n);
+
+// True when every cell shows the blank die.
+bool tavolaVuota(const GameState& state);
+
+struct Rect {
+    int left, top, width, height;
+    bool operator==(const Rect&) const = default;
+};
+
+// The frame around the 5 × 5 block and its shadow, in twips, from the first cell's rectangle.
+std::array<Rect, 2> boardFrames(const Rect& firstCell);
+
+} // namespace griglione

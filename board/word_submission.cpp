@@ -1,0 +1,112 @@
+#include "board/word_submission.h"
+
+#include "core/ansi_text.h"
+#include "dictionary/personal_vocabulary.h"
+
+#include <algorithm>
+
+namespace griglione {
+namespace {
+
+std::string trimmed(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
+bool holds(const std::vector<std::string>& list, const std::string& word) {
+    return std::find(list.begin(), list.end(), word) != list.end();
+}
+
+} // namespace
+
+WordSubmission::WordSubmission(GameState& state, BoardGame& board, Dictionary& dictionary,
+                               OpenFileTable& files, Sounds& sounds, Messages& messages,
+                               GameView& view, UnknownWordPrompt& prompt)
+    : m_state(state), m_board(board), m_dictionary(dictionary), m_files(files), m_sounds(sounds),
+      m_messages(messages), m_view(view), m_prompt(prompt) {}
+
+void WordSubmission::setBusy(bool busy) {
+    m_busy = busy;
+    m_view.setBusy(busy);
+}
+
+void WordSubmission::show(Messaggio messaggio) {
+    m_state.messaggio = std::move(messaggio);
+    m_messages.mostraMessaggio(m_state.messaggio, false);
+}
+
+void WordSubmission::inviaParola() {
+    if (m_busy) return;
+    // An opponent lookup caught in a yield now finds its file closed and gives up its walk.
+    m_files.closeAll();
+    m_state.parolaDaConfermare = trimmed(upperAscii(m_state.parolaComposta)).substr(0, 10);
+    const std::string& parola = m_state.parolaDaConfermare;
+    setBusy(true);
+
+    if (parola.empty()) {
+        m_sounds.suona("DOOLANE.WAV");
+        setBusy(false);
+        show({"OOPS!", "Inserisci una parola!",
+              "Formare una parola di senso compiuto cliccando su lettere adiacenti tra di loro "
+              "orizzontalmente, verticalmente e diagonalmente, la stessa lettera non può essere "
+              "usata più di una volta per comporre la parola. Le parole già trovate (anche dal "
+              "PC) non possono ovviamente essere riutilizzate."});
+        return;
+    }
+    if (parola.size() < 3) {
+        m_sounds.suona("SHOOT1.WAV");
+        setBusy(false);
+        show({"OOPS!", "Parola troppo corta!",
+              "Attenzione: Devi inserire una parola in " + m_state.nomeDizionario +
+                  " che deve essere composta almeno da 3 caratteri."});
+        return;
+    }
+
+    const std::string lower = lowerAscii(parola);
+    const bool mine = holds(m_state.paroleGiocatore, lower);
+    if (mine || holds(m_state.paroleCPU, lower)) {
+        m_sounds.suona("ROCHAN3.WAV");
+        setBusy(false);
+        if (mine)
+            show({"OOPS!", "Parola già inserita da te!",
+                  "Hai già precedentemente inserito la parola: " + parola +
+                      " mi dispiace, punteggio non assegnato."});
+        else
+            show({"OOPS!", "Parola già inserita dalla CPU!",
+                  "Il computer ha già inserito la parola: " + parola +
+                      " mi dispiace, punteggio non assegnato"});
+        m_board.azzera();
+        return;
+    }
+
+    const std::string answer = m_dictionary.verificaParola(parola);
+    setBusy(false);
+    if (answer == "NO") {
+        m_sounds.suona("perdi.wav");
+        m_state.rispostaConferma = static_cast<std::int16_t>(m_prompt.confermaParola(parola));
+        if (m_state.rispostaConferma == 1 || m_state.rispostaConferma == 2) {
+            m_files.closeAll();
+            appendToPersonalVocabulary(m_dictionary.personalVocabularyPath(), parola);
+        }
+        if (m_state.rispostaConferma == 1) accept();
+    } else {
+        accept();
+    }
+    m_board.azzeraParola();
+}
+
+void WordSubmission::accept() {
+    const std::string& parola = m_state.parolaDaConfermare;
+    const std::int32_t points = punteggioParola(parola.size());
+    m_state.puntiGiocatore += points;
+    m_sounds.suona("vinci.wav");
+    show({"BENE!", "Complimenti, parola accettata!",
+          "Complimenti la parola è presente nel dizionario, verranno aggiunti:" +
+              std::to_string(points) + " punti"});
+    m_view.changed(Aspect::Scores);
+    m_state.paroleGiocatore.push_back(lowerAscii(parola));
+    m_view.changed(Aspect::PlayerWords);
+}
+
+} // namespace griglione
