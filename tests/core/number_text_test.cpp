@@ -1,0 +1,39 @@
+// The old number forms: the sign place, halves to even, and the forgiving reading of a number.
+#include "core/number_text.h"
+
+#include <gtest/gtest.h>
+
+namespace griglione {
+namespace {
+
+TEST(NumberText, SignPlaceAndFileForm) {
+    EXPECT_EQ(numberText(7), " 7");
+    EXPECT_EQ(numberText(0), " 0");
+    EXPECT_EQ(numberText(-7), "-7");
+    EXPECT_EQ(numberField(7), " 7 ");
+    EXPECT_EQ(numberField(-12), "-12 ");
+    EXPECT_EQ(rightAligned(numberText(1), 3), "  1");
+    EXPECT_EQ(rightAligned(numberText(123), 3), "123");
+    EXPECT_EQ(rightAligned(numberText(12400), 5), "12400");
+    EXPECT_EQ(rightAligned(numberText(0), 5), "    0");
+}
+
+TEST(NumberText, RoundsHalvesToEven) {
+    const std::pair<double, int> cases[] = {{0.5, 0},   {1.5, 2},     {2.5, 2},   {-0.5, 0},
+                                            {-1.5, -2}, {2.4999, 2}, {2.5001, 3}, {7, 7}};
+    for (const auto& [value, expected] : cases) EXPECT_EQ(roundHalfEven(value), expected) << value;
+    EXPECT_FALSE(roundHalfEven(3e9));
+    EXPECT_FALSE(roundHalfEven(std::numeric_limits<double>::infinity()));
+}
+
+TEST(NumberText, ReadsTheLeadingNumber) {
+    const std::pair<const char*, double> cases[] = {
+        {"", 0},       {"abc", 0},      {"  42", 42},   {"42abc", 42}, {"-3.5x", -3.5},
+        {"+7", 7},     {".5", 0.5},     {"1.2.3", 1.2}, {"- 4", 0},    {"\t4", 0},
+        {"1e5", 1},    {"0007", 7},     {" 1 2", 1},
+    };
+    for (const auto& [text, expected] : cases) EXPECT_DOUBLE_EQ(leadingNumber(text), expected) << text;
+}
+
+} // namespace
+} // namespace griglione
