@@ -1,0 +1,147 @@
+// Tracing: adjacency in every direction and across the row ends, the path's connection table,
+// turning a die, refused presses, and the clear.
+#include "board/board_game.h"
+#include "board/board_layout.h"
+#include "tests/support/fakes.h"
+
+#include <gtest/gtest.h>
+
+namespace griglione {
+namespace {
+
+using namespace testing;
+
+TEST(Adjacency, EightDirectionsButNeverAcrossTheEdge) {
+    const struct {
+        int p, n;
+        bool touch;
+    } cases[] = {
+        {12, 11, true}, {12, 13, true}, {12, 7, true},  {12, 17, true}, {12, 6, true},
+        {12, 8, true},  {12, 16, true}, {12, 18, true}, {12, 12, true}, {12, 10, false},
+        {12, 2, false}, {12, 22, false}, {4, 5, false},  {4, 9, true},   {5, 4, false},
+        {9, 10, false}, {4, 10, false}, {5, 9, false},  {9, 5, false},  {0, 24, false},
+        {19, 15, false}, {20, 24, false}, {0, 6, true},  {24, 18, true}, {14, 10, false},
+        {10, 14, false}, {10, 4, false},  {9, 15, false},
+    };
+    for (const auto& c : cases) EXPECT_EQ(celleAdiacenti(c.p, c.n), c.touch) << c.p << "→" << c.n;
+}
+
+TEST(PathConnections, EachStepMeetsAtTheCommonEdgeOrCorner) {
+    const struct {
+        int d;
+        Anchor line1, line2;
+    } cases[] = {
+        {-1, Anchor::Right, Anchor::Left},        {+1, Anchor::Left, Anchor::Right},
+        {-5, Anchor::Bottom, Anchor::Top},        {+5, Anchor::Top, Anchor::Bottom},
+        {+4, Anchor::TopRight, Anchor::BottomLeft}, {+6, Anchor::TopLeft, Anchor::BottomRight},
+        {-6, Anchor::BottomRight, Anchor::TopLeft}, {-4, Anchor::BottomLeft, Anchor::TopRight},
+    };
+    for (const auto& c : cases) {
+        const auto ends = connection(c.d);
+        ASSERT_TRUE(ends) << c.d;
+        EXPECT_EQ(ends->first, c.line1) << c.d;
+        EXPECT_EQ(ends->second, c.line2) << c.d;
+        // Both ends are the same point of the board: p's end shifted by one die is n's end.
+        const auto [x1, y1] = anchorPoint(ends->first);
+        const auto [x2, y2] = anchorPoint(ends->second);
+        const int dx = (c.d + 7) % 5 - 2, dy = (c.d - dx) / 5;
+        EXPECT_DOUBLE_EQ(x1 + dx, x2) << c.d;
+        EXPECT_DOUBLE_EQ(y1 + dy, y2) << c.d;
+    }
+    EXPECT_FALSE(connection(2));
+    EXPECT_FALSE(connection(0));
+}
+
+struct TracingTest : ::testing::Test {
+    TracingTest() {
+        for (int n = 0; n < kCells; ++n)
+            state.immagineCella[n] = dieName(static_cast<char>('A' + n), 1);
+    }
+    GameState state;
+    ScriptedRandom random;
+    FixedClock clock;
+    Dealer dealer{random, clock};
+    FakeSounds sounds;
+    FakeMessages messages;
+    FakeView view;
+    BoardGame board{state, dealer, sounds, messages, view};
+};
+
+TEST_F(TracingTest, NoMatchRunningStartsOneAndSelectsNothing) {
+    EXPECT_EQ(board.press(3, kRightButton, false), PressResult::StartMatch);
+    EXPECT_EQ(board.press(3, kLeftButton, false), PressResult::StartMatch);
+    EXPECT_EQ(state.parolaComposta, "");
+    EXPECT_TRUE(sounds.played.empty());
+}
+
+TEST_F(TracingTest, SelectingDrawsADotThenSegmentsMeetingAtTheEdge) {
+    EXPECT_EQ(board.press(0, kLeftButton, true), PressResult::Selected);
+    EXPECT_EQ(board.path().marks(0).line1, (Segment{Anchor::Centre, Anchor::Centre}));
+    EXPECT_EQ(board.press(6, kMiddleButton, true), PressResult::Selected);
+    EXPECT_EQ(board.path().marks(0).line2, (Segment{Anchor::Centre, Anchor::BottomRight}));
+    EXPECT_EQ(board.path().marks(6).line1, (Segment{Anchor::Centre, Anchor::TopLeft}));
+    EXPECT_EQ(state.parolaComposta, "AG");
+    EXPECT_EQ(state.ultimaCella, 6);
+    EXPECT_EQ(sounds.played, (std::vector<std::string>{"SND0002.wav", "SND0002.wav"}));
+}
+
+TEST_F(TracingTest, RefusedPressesKeepTheWordAndTheLastDie) {
+    board.press(4, kLeftButton, true);
+    sounds.played.clear();
+    EXPECT_EQ(board.press(5, kLeftButton, true), PressResult::NotAdjacent);
+    EXPECT_EQ(sounds.played, (std::vector<std::string>{"SND0002.wav", "beep"}));
+    ASSERT_EQ(messages.shown.size(), 1u);
+    EXPECT_EQ(messages.shown[0].titolo, "OOPS!");
+    EXPECT_EQ(messages.shown[0].intestazione, "Lettera non adiacente");
+    EXPECT_EQ(messages.shown[0].testo,
+              "Attenzione : La lettera deve essere adiacente a quella cliccata in precedenza! Per "
+              "scrivere una nuova parola cliccare il pulsante <Azzera>");
+    EXPECT_FALSE(messages.modal[0]);
+    EXPECT_FALSE(state.cellaUsata[5]);
+    EXPECT_EQ(state.ultimaCella, 4);
+    EXPECT_EQ(board.press(4, kLeftButton, true), PressResult::Refused);
+    EXPECT_EQ(sounds.played.back(), "beep");
+    EXPECT_EQ(board.press(9, kLeftButton, true), PressResult::Selected); // judged against 4
+    EXPECT_EQ(state.parolaComposta, "EJ");
+}
+
+TEST_F(TracingTest, RightButtonTurnsTheFaceEvenOfAUsedDie) {
+    board.press(7, kLeftButton, true);
+    const Segment before = board.path().marks(7).line1;
+    for (const char* face : {"zarMmgH2.gif", "zarMmgH3.gif", "zarMmgH4.gif", "zarMmgH1.gif"}) {
+        EXPECT_EQ(board.press(7, kRightButton, true), PressResult::Turned);
+        EXPECT_EQ(state.immagineCella[7], face);
+    }
+    EXPECT_EQ(sounds.played.back(), "SND0230.wav");
+    EXPECT_EQ(state.parolaComposta, "H");
+    EXPECT_EQ(board.path().marks(7).line1, before);
+}
+
+TEST_F(TracingTest, BlinkTogglesTheNewestDieAndAddingADieShowsThePreviousAgain) {
+    board.press(12, kLeftButton, true);
+    board.blink();
+    EXPECT_FALSE(board.path().marks(12).line1Visible);
+    board.press(13, kLeftButton, true);
+    EXPECT_TRUE(board.path().marks(12).line1Visible);
+    board.blink();
+    board.blink();
+    board.blink();
+    EXPECT_FALSE(board.path().marks(13).line1Visible);
+    board.azzera();
+    EXPECT_EQ(sounds.played.back(), "COLLAPSE.WAV");
+    EXPECT_FALSE(board.path().marks(13).line1Visible); // the clear leaves the flag
+    EXPECT_TRUE(board.path().marks(13).line1.hidden());
+    EXPECT_EQ(state.parolaComposta, "");
+    EXPECT_EQ(state.ultimaCella, -1);
+    EXPECT_FALSE(state.cellaUsata[12]);
+}
+
+TEST_F(TracingTest, AWordCanRunThroughAllTwentyFiveDice) {
+    const int snake[] = {0, 1, 2, 3, 4, 9, 8, 7, 6, 5, 10, 11, 12, 13, 14,
+                         19, 18, 17, 16, 15, 20, 21, 22, 23, 24};
+    for (int n : snake) ASSERT_EQ(board.press(n, kLeftButton, true), PressResult::Selected) << n;
+    EXPECT_EQ(state.parolaComposta.size(), 25u);
+}
+
+} // namespace
+} // namespace griglione
