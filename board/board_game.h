@@ -21,8 +21,7 @@ enum class PressResult {
 
 class BoardGame {
 public:
-    BoardGame(GameState& state, Dealer& dealer, Sounds& sounds, Messages& messages,
-              GameView& view);
+    BoardGame(GameState& state, Dealer& dealer, Sounds& sounds, Messages& messages, GameView& view);
 
     // A new board of random letters, or the blank board. Every deal also empties both word
     // lists, zeroes both scores and clears the traced word and the time bar.

@@ -11,8 +11,12 @@ namespace griglione {
 inline constexpr std::string_view kBlankDie = "zarMolo.gif";
 
 // Row and column counted from 1, as the adjacency test counts them.
-constexpr int rigaCella(int n) { return n / kBoardSide + 1; }
-constexpr int colonnaCella(int n) { return n % kBoardSide + 1; }
+constexpr int rigaCella(int n) {
+    return n / kBoardSide + 1;
+}
+constexpr int colonnaCella(int n) {
+    return n % kBoardSide + 1;
+}
 
 // True when the two cells touch horizontally, vertically or diagonally. Comparing rows and
 // columns keeps a step from wrapping around the edge: cells 4 and 5 do not touch.

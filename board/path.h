@@ -13,8 +13,18 @@ namespace griglione {
 
 // Points of a die in its own coordinates: the centre, the middles of the edges, the corners.
 // A hidden segment has both ends out of the die.
-enum class Anchor { Hidden, Centre, Left, Right, Top, Bottom, TopLeft, TopRight, BottomLeft,
-                    BottomRight };
+enum class Anchor {
+    Hidden,
+    Centre,
+    Left,
+    Right,
+    Top,
+    Bottom,
+    TopLeft,
+    TopRight,
+    BottomLeft,
+    BottomRight
+};
 
 // The point as fractions of the die's width and height.
 std::pair<double, double> anchorPoint(Anchor anchor);
@@ -40,10 +50,10 @@ class Path {
 public:
     const CellMarks& marks(int n) const { return m_marks[n]; }
 
-    void start(int n);               // the first die: a dot in its centre
-    void connect(int p, int n);      // n follows p, which it touches
-    void toggleBlink(int n);         // the newest die's incoming segment blinks
-    void hideAll();                  // moves every segment out of sight; blink flags stay
+    void start(int n);          // the first die: a dot in its centre
+    void connect(int p, int n); // n follows p, which it touches
+    void toggleBlink(int n);    // the newest die's incoming segment blinks
+    void hideAll();             // moves every segment out of sight; blink flags stay
 
 private:
     std::array<CellMarks, kCells> m_marks;

@@ -20,9 +20,8 @@ public:
 
 class WordSubmission {
 public:
-    WordSubmission(GameState& state, BoardGame& board, Dictionary& dictionary,
-                   OpenFileTable& files, Sounds& sounds, Messages& messages, GameView& view,
-                   UnknownWordPrompt& prompt);
+    WordSubmission(GameState& state, BoardGame& board, Dictionary& dictionary, OpenFileTable& files,
+                   Sounds& sounds, Messages& messages, GameView& view, UnknownWordPrompt& prompt);
 
     void inviaParola();
 

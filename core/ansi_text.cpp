@@ -50,7 +50,8 @@ unsigned char upperByte(unsigned char b) {
 std::string fromAnsi(std::string_view bytes) {
     std::string out;
     out.reserve(bytes.size());
-    for (char c : bytes) appendUtf8(out, codePointOf(static_cast<unsigned char>(c)));
+    for (char c : bytes)
+        appendUtf8(out, codePointOf(static_cast<unsigned char>(c)));
     return out;
 }
 
@@ -101,7 +102,8 @@ std::string toAnsi(std::string_view utf8) {
 
 std::string upperAnsi(std::string_view bytes) {
     std::string out(bytes);
-    for (char& c : out) c = static_cast<char>(upperByte(static_cast<unsigned char>(c)));
+    for (char& c : out)
+        c = static_cast<char>(upperByte(static_cast<unsigned char>(c)));
     return out;
 }
 

@@ -3,7 +3,8 @@
 namespace griglione {
 
 GameState::GameState()
-    : alfabeto{"ABCDEFGHILMNOPQRSTUVZ", "ABCDEFGHIJKLMNOPQRSTUVWXYZ", "ABCDEFGHIJKLMNOPQRSTUVWXYZ"} {
+    : alfabeto{"ABCDEFGHILMNOPQRSTUVZ", "ABCDEFGHIJKLMNOPQRSTUVWXYZ",
+               "ABCDEFGHIJKLMNOPQRSTUVWXYZ"} {
     immagineCella.fill("zarMolo.gif");
 }
 

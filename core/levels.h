@@ -7,10 +7,10 @@
 namespace griglione {
 
 struct LevelInfo {
-    int interval;              // milliseconds between two walks of the opponent
-    std::string_view caption;  // menu item
-    std::string_view name;     // as the start message names it
-    std::string_view cpuName;  // as the end-of-match window names the opponent
+    int interval;             // milliseconds between two walks of the opponent
+    std::string_view caption; // menu item
+    std::string_view name;    // as the start message names it
+    std::string_view cpuName; // as the end-of-match window names the opponent
 };
 
 inline constexpr std::array<LevelInfo, 4> kLevels = {{

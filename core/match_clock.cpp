@@ -16,7 +16,9 @@ int timeBarWidth(int innerWidth, int tempoPartita, int seconds) {
     return roundHalfEven(x).value_or(innerWidth);
 }
 
-std::string secondsLabel(int seconds) { return std::to_string(seconds) + "s"; }
+std::string secondsLabel(int seconds) {
+    return std::to_string(seconds) + "s";
+}
 
 Messaggio startMessage(const GameState& state, const std::array<bool, 4>& levelChecked) {
     // Several level items can be checked after reading an odd settings file; the last of this

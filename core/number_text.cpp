@@ -6,13 +6,18 @@
 
 namespace griglione {
 
-std::string numberText(std::int64_t n) { return (n < 0 ? "" : " ") + std::to_string(n); }
+std::string numberText(std::int64_t n) {
+    return (n < 0 ? "" : " ") + std::to_string(n);
+}
 
-std::string numberField(std::int64_t n) { return numberText(n) + " "; }
+std::string numberField(std::int64_t n) {
+    return numberText(n) + " ";
+}
 
 double leadingNumber(std::string_view text) {
     std::size_t i = 0;
-    while (i < text.size() && text[i] == ' ') ++i;
+    while (i < text.size() && text[i] == ' ')
+        ++i;
     std::string number;
     if (i < text.size() && (text[i] == '+' || text[i] == '-')) number += text[i++];
     bool digits = false;

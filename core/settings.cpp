@@ -29,7 +29,8 @@ std::optional<Key> classify(std::string_view line) {
 }
 
 std::string_view withoutLeadingBlanks(std::string_view text) {
-    while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+    while (!text.empty() && text.front() == ' ')
+        text.remove_prefix(1);
     return text;
 }
 

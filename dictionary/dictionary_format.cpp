@@ -6,7 +6,9 @@ namespace griglione {
 namespace {
 
 // A position as the index stores it: right-aligned in 8 characters, a blank for the sign.
-std::string indexField(std::int64_t position) { return rightAligned(numberText(position), 8); }
+std::string indexField(std::int64_t position) {
+    return rightAligned(numberText(position), 8);
+}
 
 void put(std::string& file, std::int64_t position, std::string_view bytes) {
     const auto offset = static_cast<std::size_t>(position - 1);
@@ -22,7 +24,8 @@ std::string dictionaryFileName(int numDizionario) {
 
 std::int64_t parseIndexField(std::string_view field) {
     std::size_t i = 0;
-    while (i < field.size() && field[i] == ' ') ++i;
+    while (i < field.size() && field[i] == ' ')
+        ++i;
     std::int64_t value = 0;
     for (; i < field.size() && field[i] >= '0' && field[i] <= '9'; ++i) {
         value = value * 10 + (field[i] - '0');

@@ -28,7 +28,8 @@ std::vector<std::string> textLines(std::string_view bytes) {
 std::vector<std::string> readPersonalVocabulary(const std::filesystem::path& file) {
     std::vector<std::string> words;
     if (const auto bytes = readWholeFile(file))
-        for (const std::string& line : textLines(*bytes)) words.push_back(upperAnsi(line));
+        for (const std::string& line : textLines(*bytes))
+            words.push_back(upperAnsi(line));
     return words;
 }
 

@@ -12,7 +12,8 @@ std::optional<std::string> readRulesText(const std::filesystem::path& folder,
     const auto bytes = readWholeFile(resolveFileName(folder, kRulesFileName));
     if (!bytes) return std::nullopt;
     std::string text;
-    for (const std::string& line : textLines(*bytes)) text.append(fromAnsi(line)).append(lineEnd);
+    for (const std::string& line : textLines(*bytes))
+        text.append(fromAnsi(line)).append(lineEnd);
     return text;
 }
 

@@ -4,6 +4,8 @@
 
 namespace griglione {
 
-void yieldToWindow() { QCoreApplication::processEvents(QEventLoop::AllEvents); }
+void yieldToWindow() {
+    QCoreApplication::processEvents(QEventLoop::AllEvents);
+}
 
 } // namespace griglione

@@ -7,7 +7,8 @@ namespace griglione {
 
 void registerFonts() {
     if (QFontDatabase::hasFamily("Tahoma")) return;
-    for (const char* file : {"/usr/share/wine/fonts/tahoma.ttf", "/usr/share/wine/fonts/tahomabd.ttf"})
+    for (const char* file :
+         {"/usr/share/wine/fonts/tahoma.ttf", "/usr/share/wine/fonts/tahomabd.ttf"})
         if (QFile::exists(file)) QFontDatabase::addApplicationFont(file);
 }
 

@@ -23,6 +23,8 @@ void SoundPlayer::suona(std::string_view nomeFile) {
     m_effect->play();
 }
 
-void SoundPlayer::beep() { QApplication::beep(); }
+void SoundPlayer::beep() {
+    QApplication::beep();
+}
 
 } // namespace griglione

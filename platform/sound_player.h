@@ -6,7 +6,6 @@
 
 #include <QObject>
 
-
 class QSoundEffect;
 
 namespace griglione {

@@ -36,8 +36,10 @@ TEST_F(DealTest, VowelsOnEvenCellsConsonantsOnOddOnesForEveryLanguage) {
                 ASSERT_NE(pool.find(letter), std::string_view::npos) << language << " " << n;
                 ASSERT_GE(facciaCella(state, n), 1);
                 ASSERT_LE(facciaCella(state, n), 4);
-                if (language == 1) ASSERT_EQ(std::string_view("JKWXY").find(letter), std::string_view::npos);
-                if (n % 2 == 0) ASSERT_EQ(std::string_view("JKWX").find(letter), std::string_view::npos);
+                if (language == 1)
+                    ASSERT_EQ(std::string_view("JKWXY").find(letter), std::string_view::npos);
+                if (n % 2 == 0)
+                    ASSERT_EQ(std::string_view("JKWX").find(letter), std::string_view::npos);
             }
         }
     }
@@ -54,7 +56,8 @@ TEST_F(DealTest, PoolsWeighTheLetters) {
 TEST_F(DealTest, OneClockReadingStillGivesVariedBoards) {
     board.lanciaDadi(true);
     std::set<char> letters;
-    for (int n = 0; n < kCells; ++n) letters.insert(letteraCella(state, n));
+    for (int n = 0; n < kCells; ++n)
+        letters.insert(letteraCella(state, n));
     EXPECT_GT(letters.size(), 6u);
 }
 
@@ -66,7 +69,8 @@ TEST_F(DealTest, BlankDealAndTheResetsOfEveryDeal) {
     state.puntiCPU = 320;
     board.press(0, kLeftButton, true);
     board.lanciaDadi(false);
-    for (const std::string& cell : state.immagineCella) EXPECT_EQ(cell, "zarMolo.gif");
+    for (const std::string& cell : state.immagineCella)
+        EXPECT_EQ(cell, "zarMolo.gif");
     EXPECT_TRUE(tavolaVuota(state));
     EXPECT_TRUE(state.paroleGiocatore.empty());
     EXPECT_TRUE(state.paroleCPU.empty());

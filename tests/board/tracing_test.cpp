@@ -16,14 +16,15 @@ TEST(Adjacency, EightDirectionsButNeverAcrossTheEdge) {
         int p, n;
         bool touch;
     } cases[] = {
-        {12, 11, true}, {12, 13, true}, {12, 7, true},  {12, 17, true}, {12, 6, true},
-        {12, 8, true},  {12, 16, true}, {12, 18, true}, {12, 12, true}, {12, 10, false},
-        {12, 2, false}, {12, 22, false}, {4, 5, false},  {4, 9, true},   {5, 4, false},
-        {9, 10, false}, {4, 10, false}, {5, 9, false},  {9, 5, false},  {0, 24, false},
-        {19, 15, false}, {20, 24, false}, {0, 6, true},  {24, 18, true}, {14, 10, false},
+        {12, 11, true},  {12, 13, true},  {12, 7, true},  {12, 17, true}, {12, 6, true},
+        {12, 8, true},   {12, 16, true},  {12, 18, true}, {12, 12, true}, {12, 10, false},
+        {12, 2, false},  {12, 22, false}, {4, 5, false},  {4, 9, true},   {5, 4, false},
+        {9, 10, false},  {4, 10, false},  {5, 9, false},  {9, 5, false},  {0, 24, false},
+        {19, 15, false}, {20, 24, false}, {0, 6, true},   {24, 18, true}, {14, 10, false},
         {10, 14, false}, {10, 4, false},  {9, 15, false},
     };
-    for (const auto& c : cases) EXPECT_EQ(celleAdiacenti(c.p, c.n), c.touch) << c.p << "→" << c.n;
+    for (const auto& c : cases)
+        EXPECT_EQ(celleAdiacenti(c.p, c.n), c.touch) << c.p << "→" << c.n;
 }
 
 TEST(PathConnections, EachStepMeetsAtTheCommonEdgeOrCorner) {
@@ -31,8 +32,8 @@ TEST(PathConnections, EachStepMeetsAtTheCommonEdgeOrCorner) {
         int d;
         Anchor line1, line2;
     } cases[] = {
-        {-1, Anchor::Right, Anchor::Left},        {+1, Anchor::Left, Anchor::Right},
-        {-5, Anchor::Bottom, Anchor::Top},        {+5, Anchor::Top, Anchor::Bottom},
+        {-1, Anchor::Right, Anchor::Left},          {+1, Anchor::Left, Anchor::Right},
+        {-5, Anchor::Bottom, Anchor::Top},          {+5, Anchor::Top, Anchor::Bottom},
         {+4, Anchor::TopRight, Anchor::BottomLeft}, {+6, Anchor::TopLeft, Anchor::BottomRight},
         {-6, Anchor::BottomRight, Anchor::TopLeft}, {-4, Anchor::BottomLeft, Anchor::TopRight},
     };
@@ -137,9 +138,10 @@ TEST_F(TracingTest, BlinkTogglesTheNewestDieAndAddingADieShowsThePreviousAgain) 
 }
 
 TEST_F(TracingTest, AWordCanRunThroughAllTwentyFiveDice) {
-    const int snake[] = {0, 1, 2, 3, 4, 9, 8, 7, 6, 5, 10, 11, 12, 13, 14,
-                         19, 18, 17, 16, 15, 20, 21, 22, 23, 24};
-    for (int n : snake) ASSERT_EQ(board.press(n, kLeftButton, true), PressResult::Selected) << n;
+    const int snake[] = {0,  1,  2,  3,  4,  9,  8,  7,  6,  5,  10, 11, 12,
+                         13, 14, 19, 18, 17, 16, 15, 20, 21, 22, 23, 24};
+    for (int n : snake)
+        ASSERT_EQ(board.press(n, kLeftButton, true), PressResult::Selected) << n;
     EXPECT_EQ(state.parolaComposta.size(), 25u);
 }
 

@@ -1,7 +1,7 @@
 // The submission: every outcome with its message, sounds and list change, the confirmation's
 // three answers, the busy guard and the file closing that makes an opponent lookup give up.
-#include "board/word_submission.h"
 #include "board/board_layout.h"
+#include "board/word_submission.h"
 #include "tests/support/fakes.h"
 
 #include <gtest/gtest.h>
@@ -43,7 +43,10 @@ struct SubmissionTest : ::testing::Test {
     OpenFileTable files;
     FakeAlerts alerts;
     std::function<void()> yieldAction;
-    Dictionary dictionary{state, files, alerts, [this] { if (yieldAction) yieldAction(); },
+    Dictionary dictionary{state, files, alerts,
+                          [this] {
+                              if (yieldAction) yieldAction();
+                          },
                           folder.path()};
     ScriptedRandom random;
     FixedClock clock;
@@ -62,8 +65,8 @@ TEST_F(SubmissionTest, AcceptedWordScoresAndJoinsThePlayersList) {
     EXPECT_EQ(sounds(), (std::vector<std::string>{"vinci.wav"}));
     ASSERT_EQ(messages.shown.size(), 1u);
     EXPECT_EQ(messages.shown[0], (Messaggio{"BENE!", "Complimenti, parola accettata!",
-                                           "Complimenti la parola è presente nel dizionario, "
-                                           "verranno aggiunti:320 punti"}));
+                                            "Complimenti la parola è presente nel dizionario, "
+                                            "verranno aggiunti:320 punti"}));
     EXPECT_FALSE(messages.modal[0]);
     EXPECT_EQ(state.puntiGiocatore, 320);
     EXPECT_EQ(state.paroleGiocatore, std::vector<std::string>{"casa"});
@@ -143,8 +146,8 @@ TEST_F(SubmissionTest, TheConfirmationsThreeAnswers) {
         int points;
         std::size_t listed;
     } cases[] = {{3, "ZEBRA", "", 0, 0},
-                   {2, "ZEBRA", "ZEBRA\r\n", 0, 0},
-                   {1, "ZOCCA", "ZEBRA\r\nZOCCA\r\n", 500, 1}};
+                 {2, "ZEBRA", "ZEBRA\r\n", 0, 0},
+                 {1, "ZOCCA", "ZEBRA\r\nZOCCA\r\n", 500, 1}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.answer);
         prompt.answer = c.answer;

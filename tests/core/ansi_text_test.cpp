@@ -8,8 +8,8 @@ namespace {
 
 TEST(AnsiText, ConvertsBothWays) {
     const std::pair<std::string, std::string> cases[] = {
-        {"città", "citt\xE0"}, {"è", "\xE8"},        {"€", "\x80"},       {"œ", "\x9C"},
-        {"“x”", "\x93x\x94"},  {"plain", "plain"},    {"ÿ", "\xFF"},       {"\r\n", "\r\n"},
+        {"città", "citt\xE0"}, {"è", "\xE8"},      {"€", "\x80"}, {"œ", "\x9C"},
+        {"“x”", "\x93x\x94"},  {"plain", "plain"}, {"ÿ", "\xFF"}, {"\r\n", "\r\n"},
     };
     for (const auto& [utf8, ansi] : cases) {
         EXPECT_EQ(toAnsi(utf8), ansi) << utf8;
@@ -19,8 +19,10 @@ TEST(AnsiText, ConvertsBothWays) {
 
 TEST(AnsiText, CharactersOutsideTheCodePageBecomeQuestionMarks) {
     EXPECT_EQ(toAnsi("Ω∑"), "??");
-    EXPECT_EQ(toAnsi("a\xC3"), "a?");        // cut sequence
-    EXPECT_EQ(toAnsi("\xFF" "b"), "?b");      // not UTF-8 at all
+    EXPECT_EQ(toAnsi("a\xC3"), "a?"); // cut sequence
+    EXPECT_EQ(toAnsi("\xFF"
+                     "b"),
+              "?b"); // not UTF-8 at all
 }
 
 TEST(AnsiText, UpperCaseCoversAccentedLetters) {

@@ -11,7 +11,7 @@ TEST(LetterFlash, StepsThroughLettersAndColours) {
     const struct {
         int step, letter, foreground, background;
     } expected[] = {
-        {1, 0, 1, 14}, {2, 1, 2, 13}, {5, 4, 5, 10}, {6, 0, 6, 9},
+        {1, 0, 1, 14},  {2, 1, 2, 13},  {5, 4, 5, 10},  {6, 0, 6, 9},
         {15, 4, 15, 0}, {16, 0, 1, 14}, {20, 4, 5, 10},
     };
     int step = 0;

@@ -28,14 +28,16 @@ TEST(MixingRandom, DrawsStayInRangeAndSpreadOverIt) {
         ASSERT_LT(r, 1.0);
         ++buckets[static_cast<std::size_t>(r * 10)];
     }
-    for (int count : buckets) EXPECT_NEAR(count, 1000, 150);
+    for (int count : buckets)
+        EXPECT_NEAR(count, 1000, 150);
 }
 
 TEST(MixingRandom, ReplaysFromTheSameState) {
     MixingRandom a(7), b(7);
     a.reseed(1.5);
     b.reseed(1.5);
-    for (int i = 0; i < 5; ++i) EXPECT_EQ(a.next(), b.next());
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(a.next(), b.next());
 }
 
 } // namespace

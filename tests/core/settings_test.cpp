@@ -56,10 +56,18 @@ struct LevelCase {
 
 TEST(SettingsFile, LevelsMapToTheirIntervalOrToTheBeginner) {
     const LevelCase cases[] = {
-        {"Livello=100", 100, 3},  {"Livello=300", 300, 2},     {"Livello=1000", 1000, 0},
-        {"Livello=500", 500, 1},  {"Livello=750", 500, 1},     {"Livello=", 500, 1},
-        {"Livello= 300", 300, 2}, {"Livello=300.4", 300, 2},   {"Livello=99.5", 100, 3},
-        {"Livello=100.5", 100, 3}, {"Livello=1000abc", 1000, 0}, {"Livello=1e99", 500, 1},
+        {"Livello=100", 100, 3},
+        {"Livello=300", 300, 2},
+        {"Livello=1000", 1000, 0},
+        {"Livello=500", 500, 1},
+        {"Livello=750", 500, 1},
+        {"Livello=", 500, 1},
+        {"Livello= 300", 300, 2},
+        {"Livello=300.4", 300, 2},
+        {"Livello=99.5", 100, 3},
+        {"Livello=100.5", 100, 3},
+        {"Livello=1000abc", 1000, 0},
+        {"Livello=1e99", 500, 1},
         {"Livello=99999999999999", 500, 1},
     };
     for (const auto& c : cases) {

@@ -24,7 +24,8 @@ TEST(DictionaryFormat, WritesTheSmallestExampleExactly) {
     EXPECT_EQ(index.contaGruppo(3), 2);
     EXPECT_EQ(index.inizioGruppo(4), 446);
     EXPECT_EQ(index.contaGruppo(4), 1);
-    for (int length = 5; length <= 15; ++length) EXPECT_EQ(index.contaGruppo(length), 0);
+    for (int length = 5; length <= 15; ++length)
+        EXPECT_EQ(index.contaGruppo(length), 0);
 }
 
 TEST(DictionaryFormat, EmptyLengthsKeepZeroEntriesAndBlocksFollowEachOther) {
@@ -47,11 +48,18 @@ TEST(DictionaryFormat, NoticeIsCutOrPaddedTo199) {
 
 TEST(DictionaryFormat, ReadsFieldsOfBlanksDigitsAndZeroBytes) {
     const std::pair<std::string, std::int64_t> cases[] = {
-        {"     440", 440},          {std::string(8, '\0'), 0}, {"440     ", 440},
-        {"  12ab34", 12},           {"xx", 0},                 {"        ", 0},
-        {" 9999999", 9999999},      {"", 0},                   {"99999999", 99999999},
+        {"     440", 440},
+        {std::string(8, '\0'), 0},
+        {"440     ", 440},
+        {"  12ab34", 12},
+        {"xx", 0},
+        {"        ", 0},
+        {" 9999999", 9999999},
+        {"", 0},
+        {"99999999", 99999999},
     };
-    for (const auto& [field, value] : cases) EXPECT_EQ(parseIndexField(field), value) << field;
+    for (const auto& [field, value] : cases)
+        EXPECT_EQ(parseIndexField(field), value) << field;
 }
 
 TEST(DictionaryFormat, DamagedIndexesGiveNoWords) {
@@ -68,7 +76,8 @@ TEST(DictionaryFormat, RefusesPositionsPastTheIndexLimit) {
     WordLists words;
     for (int i = 0; i < 1'000'000; ++i) {
         std::string w(10, 'A');
-        for (int k = 9, n = i; k >= 0 && n; --k, n /= 26) w[k] = static_cast<char>('A' + n % 26);
+        for (int k = 9, n = i; k >= 0 && n; --k, n /= 26)
+            w[k] = static_cast<char>('A' + n % 26);
         words[7].push_back(w);
     }
     EXPECT_TRUE(buildDictionaryFile("", words).empty());

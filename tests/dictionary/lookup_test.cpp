@@ -18,10 +18,12 @@ using testing::TempFolder;
 
 class LookupTest : public ::testing::Test {
 protected:
-    LookupTest() : dictionary(state, files, alerts, [this] { onYield(); }, folder.path()) {
+    LookupTest()
+        : dictionary(
+              state, files, alerts, [this] { onYield(); }, folder.path()) {
         WordLists words;
-        words[0] = {"ABC"};                                  // a block of one word
-        words[1] = {"CASA", "MARE"};                         // two words
+        words[0] = {"ABC"};          // a block of one word
+        words[1] = {"CASA", "MARE"}; // two words
         words[2] = {"AAAAA", "BBBBB", "CCCCC", "DDDDD", "EEEEE", "FFFFF", "GGGGG"};
         folder.write("SLESSICO.1", buildDictionaryFile("test", words));
         dictionary.prendidiz();
@@ -113,7 +115,8 @@ TEST(DamagedDictionary, AnswersNotFoundWithoutCrashingOrHanging) {
     GameState state;
     OpenFileTable files;
     FakeAlerts alerts;
-    Dictionary dictionary(state, files, alerts, [] {}, folder.path());
+    Dictionary dictionary(
+        state, files, alerts, [] {}, folder.path());
     WordLists words;
     words[1] = {"CASA", "MARE"};
     std::string file = buildDictionaryFile("", words);
