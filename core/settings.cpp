@@ -48,9 +48,9 @@ void applyLine(std::string_view line, Settings& s) {
         break;
     case Key::Livello: {
         const auto interval = roundedValue(value);
-        std::size_t level = Principiante;
+        std::size_t level = Principiante; // any other interval means the beginner at 500 ms
         for (std::size_t i = 0; i < kLevels.size(); ++i)
-            if (interval && i != Principiante && *interval == kLevels[i].interval) level = i;
+            if (interval && *interval == kLevels[i].interval) level = i;
         s.levelChecked[level] = true;
         s.timer2Interval = kLevels[level].interval;
         break;
