@@ -3,7 +3,6 @@
 // dictionary whose files are closed during a lookup, and ticks that must not nest.
 #include "opponent/opponent_walk.h"
 
-#include "core/number_text.h"
 #include "dictionary/dictionary.h"
 #include "tests/support/fakes.h"
 
@@ -272,50 +271,30 @@ TEST_F(OpponentWalkTest, AWordEitherPlayerHoldsEndsTheWholeTick) {
 TEST_F(OpponentWalkTest, EveryAnswerButSiAndBusyIsAnUnsuccessfulLookup) {
     struct Case {
         const char* answer;
-        bool counted;
+        std::int32_t before;
+        const char* label; // empty: the tick ended and left the count and the label alone
     };
     const std::vector<Case> cases = {
-        {"NO", true}, {"NO2", true}, {"", true}, {"si", true}, {"BUSY", false},
+        {"NO", 0, " 1 ABC"},          {"NO2", 9, " 10 ABC"}, {"", 41, " 42 ABC"},
+        {"si", 99999, " 100000 ABC"}, {"BUSY", 7, ""},
     };
-    state.ricercheFallite = 41;
     for (const Case& c : cases) {
         SCOPED_TRACE(std::string("answer \"") + c.answer + "\"");
-        const std::int32_t before = state.ricercheFallite;
-        state.ultimoTentativoCPU = "unchanged";
+        state.ricercheFallite = c.before;
+        state.ultimoTentativoCPU = "";
         lookups.clear();
         answers = {c.answer, "BUSY"};
+        random.numbers.clear();
         random.add(die(0));
         random.add(dir(Right), 3);
         walk.tick();
-        if (c.counted) {
-            EXPECT_EQ(lookups, (std::vector<std::string>{"ABC", "ABCD"}));
-            EXPECT_EQ(state.ricercheFallite, before + 1);
-            EXPECT_EQ(state.ultimoTentativoCPU, numberText(before + 1) + " ABC");
-        } else {
-            EXPECT_EQ(lookups, std::vector<std::string>{"ABC"});
-            EXPECT_EQ(state.ricercheFallite, before);
-            EXPECT_EQ(state.ultimoTentativoCPU, "unchanged");
-            random.numbers.clear(); // the draw for the fourth letter was never needed
-        }
-        EXPECT_TRUE(random.numbers.empty());
-    }
-    EXPECT_TRUE(state.paroleCPU.empty());
-    EXPECT_EQ(state.ultimoTentativoCPU, "unchanged");
-    EXPECT_EQ(state.ricercheFallite, 45);
-}
-
-TEST_F(OpponentWalkTest, TheUnsuccessfulLookupLabelCarriesTheCountAndTheLetters) {
-    struct Case {
-        std::int32_t before;
-        const char* expected;
-    };
-    for (const Case& c : std::vector<Case>{{0, " 1 ABC"}, {9, " 10 ABC"}, {99999, " 100000 ABC"}}) {
-        state.ricercheFallite = c.before;
-        answers = {"NO", "BUSY"};
-        random.add(die(0));
-        random.add(dir(Right), 3);
-        walk.tick();
-        EXPECT_EQ(state.ultimoTentativoCPU, c.expected);
+        const bool counted = *c.label != '\0';
+        const std::vector<std::string> expected =
+            counted ? std::vector<std::string>{"ABC", "ABCD"} : std::vector<std::string>{"ABC"};
+        EXPECT_EQ(lookups, expected);
+        EXPECT_EQ(state.ricercheFallite, c.before + (counted ? 1 : 0));
+        EXPECT_EQ(state.ultimoTentativoCPU, c.label);
+        EXPECT_TRUE(state.paroleCPU.empty());
     }
 }
 
@@ -375,16 +354,6 @@ TEST_F(OpponentWalkTest, ABoardBlankedDuringTheYieldEndsTheWalkWithoutReadingPas
     EXPECT_EQ(walk.parolaCPU(), "MARE");
     EXPECT_EQ(state.puntiCPU, 320); // the points of "mare" land after the yield, as always
     EXPECT_TRUE(random.numbers.empty());
-}
-
-TEST_F(OpponentWalkTest, TheFirstDieCoversTheWholeBoard) {
-    for (const auto& [r, cell] : std::vector<std::pair<double, int>>{
-             {0.0, 0}, {0.0399, 0}, {0.0401, 1}, {0.5, 12}, {0.9999999, 24}}) {
-        random.add(r);
-        EXPECT_THROW(walk.tick(), RanOut);
-        EXPECT_EQ(walk.cellaCPU(), cell) << r;
-        EXPECT_EQ(walk.parolaCPU(), std::string(1, 'A' + cell)) << r;
-    }
 }
 
 // The walk against a real dictionary file, with a submission closing every file while the
