@@ -8,6 +8,7 @@ bool OpenFileTable::open(FileSlot slot, const std::filesystem::path& path) {
     if (!*file) return false;
     Entry& e = entry(slot);
     e.file = std::move(file);
+    e.next = 1;
     ++e.generation;
     return true;
 }
@@ -16,6 +17,7 @@ void OpenFileTable::close(FileSlot slot) {
     Entry& e = entry(slot);
     if (!e.file) return;
     e.file.reset();
+    e.next = -1;
     ++e.generation;
 }
 
@@ -28,11 +30,15 @@ bool OpenFileTable::read(FileSlot slot, std::int64_t position, std::size_t lengt
                          std::string& out) {
     Entry& e = entry(slot);
     if (!e.file || position < 1) return false;
-    e.file->clear();
-    e.file->seekg(position - 1);
+    if (position != e.next) {
+        e.file->clear();
+        e.file->seekg(position - 1);
+    }
     out.resize(length);
     e.file->read(out.data(), static_cast<std::streamsize>(length));
-    return static_cast<std::size_t>(e.file->gcount()) == length;
+    const bool complete = static_cast<std::size_t>(e.file->gcount()) == length;
+    e.next = complete ? position + static_cast<std::int64_t>(length) : -1;
+    return complete;
 }
 
 } // namespace griglione

@@ -34,6 +34,9 @@ private:
     struct Entry {
         std::unique_ptr<std::ifstream> file;
         std::uint64_t generation = 0;
+        // Where the next read starts when it needs no seek: a seek drops the stream's buffer,
+        // which would make the scan of a block read the file once per record.
+        std::int64_t next = -1;
     };
     Entry& entry(FileSlot slot) { return m_entries[static_cast<std::size_t>(slot)]; }
     const Entry& entry(FileSlot slot) const { return m_entries[static_cast<std::size_t>(slot)]; }
