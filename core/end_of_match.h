@@ -29,9 +29,8 @@ public:
     // One ended match. `levelsChecked` are the level menu items in kLevels order; with none
     // checked the computer keeps the name it had ("(Computer)" at first).
     //
-    // The window once read the scores as 16-bit numbers, which fails past 32767. Scores here stay
-    // 32-bit: the winner is decided on the true values, and a history score longer than its five
-    // places is shown whole rather than cut.
+    // Scores stay 32-bit past 32767: the winner is decided on the true values, and a history
+    // score longer than its five places is shown whole rather than cut.
     EndOfMatchTexts record(const std::string& humanName, const std::array<bool, 4>& levelsChecked,
                            std::int32_t humanScore, std::int32_t cpuScore);
 
