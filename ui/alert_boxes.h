@@ -1,0 +1,24 @@
+// Plain message boxes under the program's title, and the fatal ones that end the program.
+#pragma once
+
+#include "core/ports.h"
+
+class QWidget;
+
+namespace griglione {
+
+inline constexpr const char* kProgramTitle = "Il Griglione";
+
+class AlertBoxes final : public Alerts {
+public:
+    explicit AlertBoxes(QWidget* parent = nullptr) : m_parent(parent) {}
+    void setParent(QWidget* parent) { m_parent = parent; }
+
+    void avviso(const std::string& testo) override;
+    void fatale(const std::string& testo) override;
+
+private:
+    QWidget* m_parent;
+};
+
+} // namespace griglione

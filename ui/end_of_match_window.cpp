@@ -1,0 +1,116 @@
+#include "ui/end_of_match_window.h"
+
+#include "platform/fonts.h"
+#include "ui/colours.h"
+#include "ui/message_window.h"
+#include "ui/twips.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTimer>
+
+namespace griglione {
+namespace {
+
+QLabel* label(QWidget* parent, const char* name, const QString& text, int left, int top, int width,
+              int height) {
+    auto* l = new QLabel(text, parent);
+    l->setObjectName(name);
+    l->setGeometry(twipsRect(left, top, width, height));
+    return l;
+}
+
+} // namespace
+
+EndOfMatchWindow::EndOfMatchWindow(QTimer& matchClock, QTimer& opponentClock, Sounds& sounds,
+                                   MessageHost& messages, std::function<void()> terminate,
+                                   QWidget* parent)
+    : QDialog(parent), m_matchClock(matchClock), m_opponentClock(opponentClock), m_sounds(sounds),
+      m_messages(messages), m_terminate(std::move(terminate)) {
+    setObjectName("Form2");
+    setWindowTitle("Il Griglione - Tempo scaduto");
+    setFixedSize(px(6525), px(5475));
+    setAutoFillBackground(true);
+    QPalette palette = this->palette();
+    palette.setColor(QPalette::Window, QColor(192, 192, 192));
+    setPalette(palette);
+
+    m_result = label(this, "Label1", "", 720, 120, 5400, 480);
+    m_result->setFont(tahoma(14, true));
+    setTextColour(m_result, QColor(128, 0, 0));
+    m_names[0] = label(this, "Label3_0", "Brivo (Umano)", 630, 780, 1600, 300);
+    m_scores[0] = label(this, "Label4_0", "0", 2310, 720, 800, 360);
+    m_scores[1] = label(this, "Label4_1", "0", 3150, 720, 800, 360);
+    m_names[1] = label(this, "Label3_1", "(Computer)", 3990, 780, 2300, 300);
+    for (QLabel* score : m_scores) {
+        score->setFont(tahoma(12, true));
+        score->setAlignment(Qt::AlignCenter);
+        setTextColour(score, QColor(0, 0, 128));
+    }
+
+    m_history = new QListWidget(this);
+    m_history->setObjectName("List1");
+    m_history->setGeometry(twipsRect(600, 1110, 5295, 1980));
+    m_history->setFont(courier(9));
+
+    label(this, "Label5", "STATISTICHE", 660, 3090, 2000, 300)->setFont(tahoma(8.25, true));
+    const char* headings[] = {"Vinte", "Perse", "Pareggi"};
+    const char* countNames[] = {"Label9", "Label10", "Label11"};
+    const char* headingNames[] = {"Label6", "Label7", "Label8"};
+    const int lefts[] = {630, 2430, 4200};
+    for (int i = 0; i < 3; ++i) {
+        label(this, headingNames[i], headings[i], lefts[i], 3450, 1200, 300);
+        m_counts[i] = label(this, countNames[i], "", lefts[i], 3840, 1200, 300);
+        m_counts[i]->setFont(tahoma(10, true));
+    }
+
+    label(this, "Label2", "Vuoi fare un'altra partitina?", 600, 4410, 3200, 400);
+    auto* ok = new QPushButton("&OK", this);
+    ok->setObjectName("Command1");
+    ok->setGeometry(twipsRect(3870, 4410, 960, 420));
+    ok->setDefault(true);
+    connect(ok, &QPushButton::clicked, this, &EndOfMatchWindow::goOn);
+    auto* cancel = new QPushButton("&Annulla", this);
+    cancel->setObjectName("Command2");
+    cancel->setGeometry(twipsRect(4890, 4410, 960, 420));
+    connect(cancel, &QPushButton::clicked, this, [this] { m_terminate(); });
+
+    m_matchClock.stop();
+    m_opponentClock.stop();
+    centreOnScreen(this);
+}
+
+void EndOfMatchWindow::showResult(const QString& playerName, int playerScore, int cpuScore,
+                                  const std::array<bool, 4>& levelChecked) {
+    m_messages.chiudi();
+    const EndOfMatchTexts report =
+        m_statistics.record(playerName.toStdString(), levelChecked, playerScore, cpuScore);
+    m_names[1]->setText(QString::fromStdString(report.cpuName));
+    m_names[0]->setText(playerName);
+    m_scores[0]->setText(QString::fromStdString(report.humanScore));
+    m_scores[1]->setText(QString::fromStdString(report.cpuScore));
+    m_result->setText(QString::fromStdString(report.result));
+    m_sounds.suona(report.sound);
+    m_history->addItem(QString::fromStdString(report.historyLine));
+    m_history->setCurrentRow(m_history->count() - 1);
+    m_counts[0]->setText(QString::fromStdString(report.humanWins));
+    m_counts[1]->setText(QString::fromStdString(report.cpuWins));
+    m_counts[2]->setText(QString::fromStdString(report.draws));
+    exec();
+}
+
+void EndOfMatchWindow::goOn() {
+    m_matchClock.start();
+    m_opponentClock.start();
+    QCoreApplication::processEvents();
+    hide();
+    QCoreApplication::processEvents();
+}
+
+void EndOfMatchWindow::reject() {
+    goOn();
+}
+
+} // namespace griglione

@@ -1,0 +1,51 @@
+// The end-of-match window (Form2): the winner, both scores, the history of the run's matches and
+// the player's statistics. Created once and then only hidden and shown, so they keep growing.
+#pragma once
+
+#include "core/end_of_match.h"
+#include "core/ports.h"
+
+#include <QDialog>
+
+#include <array>
+#include <functional>
+
+class QLabel;
+class QListWidget;
+class QTimer;
+
+namespace griglione {
+
+class MessageHost;
+
+class EndOfMatchWindow final : public QDialog {
+    Q_OBJECT
+public:
+    EndOfMatchWindow(QTimer& matchClock, QTimer& opponentClock, Sounds& sounds,
+                     MessageHost& messages, std::function<void()> terminate, QWidget* parent);
+
+    // Shows the result modally; returns when "&OK" has hidden the window again.
+    void showResult(const QString& playerName, int playerScore, int cpuScore,
+                    const std::array<bool, 4>& levelChecked);
+
+protected:
+    // Closing it from its frame goes on to the next match, as "&OK" does.
+    void reject() override;
+
+private:
+    void goOn();
+
+    QTimer& m_matchClock;
+    QTimer& m_opponentClock;
+    Sounds& m_sounds;
+    MessageHost& m_messages;
+    std::function<void()> m_terminate;
+    MatchStatistics m_statistics;
+    QLabel* m_result = nullptr;
+    std::array<QLabel*, 2> m_names{};
+    std::array<QLabel*, 2> m_scores{};
+    std::array<QLabel*, 3> m_counts{};
+    QListWidget* m_history = nullptr;
+};
+
+} // namespace griglione

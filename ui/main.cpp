@@ -1,0 +1,33 @@
+// Il Griglione: a word game on a 5 × 5 board of letter dice against the computer.
+#include "core/mixing_random.h"
+#include "platform/event_yield.h"
+#include "platform/fonts.h"
+#include "platform/sound_player.h"
+#include "platform/system_clock.h"
+#include "ui/alert_boxes.h"
+#include "ui/main_window.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDir>
+
+#include <cstdlib>
+
+int main(int argc, char* argv[]) {
+    QApplication app(argc, argv);
+    // Every file of the game is found by its bare name in the program's own folder.
+    QDir::setCurrent(QCoreApplication::applicationDirPath());
+    griglione::registerFonts();
+    QApplication::setFont(griglione::tahoma(8.25));
+
+    griglione::SoundPlayer player;
+    griglione::AlertBoxes alerts;
+    griglione::SystemClock clock;
+    griglione::MixingRandom random(static_cast<std::uint64_t>(QDateTime::currentMSecsSinceEpoch()));
+    griglione::MainWindow window(
+        {player, alerts, clock, random, griglione::yieldToWindow, ".", [] { std::exit(0); }});
+    alerts.setParent(&window);
+    window.startUp();
+    window.show();
+    return app.exec();
+}

@@ -1,0 +1,511 @@
+#include "ui/main_window.h"
+
+#include "board/board_layout.h"
+#include "core/atomic_file.h"
+#include "core/file_names.h"
+#include "core/levels.h"
+#include "core/match_clock.h"
+#include "platform/fonts.h"
+#include "ui/colours.h"
+#include "ui/die_cell.h"
+#include "ui/end_of_match_window.h"
+#include "ui/time_bar.h"
+#include "ui/twips.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QPainter>
+#include <QTimer>
+#include <QToolButton>
+
+namespace griglione {
+namespace {
+
+// The board's first die, in twips; the dice pictures are 64 pixels square.
+constexpr int kBoardLeft = 120;
+constexpr int kBoardTop = 120;
+constexpr int kDieTwips = 64 * kTwipsPerPixel;
+// The right-hand panel sits this far right of the board.
+constexpr int kPanelGap = 47;
+constexpr int kDesignPanelLeft = 5340;
+
+const QColor kDarkGreen(0, 64, 0);
+const QColor kBlue(0, 0, 128);
+const QColor kRed(128, 0, 0);
+const QColor kDarkGrey(64, 64, 64);
+
+QLabel* label(QWidget* parent, const char* name, const QString& text, const QRect& geometry,
+              const QColor& foreground, const QColor& background) {
+    auto* l = new QLabel(text, parent);
+    l->setObjectName(name);
+    l->setGeometry(geometry);
+    l->setAlignment(Qt::AlignCenter);
+    setColours(l, foreground, background);
+    return l;
+}
+
+QListWidget* wordList(QWidget* parent, const char* name, const QRect& geometry,
+                      const QColor& background) {
+    auto* list = new QListWidget(parent);
+    list->setObjectName(name);
+    list->setGeometry(geometry);
+    QPalette palette = list->palette();
+    palette.setColor(QPalette::Base, background);
+    list->setPalette(palette);
+    return list;
+}
+
+QToolButton* pictureButton(QWidget* parent, const char* name, const QString& text,
+                           const QRect& geometry, const QString& pictureFile) {
+    auto* button = new QToolButton(parent);
+    button->setObjectName(name);
+    button->setText(text);
+    button->setGeometry(geometry);
+    button->setIcon(QIcon(pictureFile));
+    button->setIconSize(QSize(32, 32));
+    button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    button->setFocusPolicy(Qt::StrongFocus);
+    return button;
+}
+
+// A die drawn when its picture file is missing, so the board stays playable.
+QPixmap fallbackDie(const std::string& name) {
+    QPixmap die(64, 64);
+    die.fill(kDarkGreen);
+    QPainter painter(&die);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(QColor(250, 245, 225));
+    painter.setPen(QPen(QColor(90, 80, 60), 2));
+    painter.drawRoundedRect(QRectF(3, 3, 58, 58), 8, 8);
+    if (name.size() > 7 && name != kBlankDie) {
+        painter.setFont(tahoma(26, true));
+        painter.setPen(Qt::black);
+        painter.drawText(die.rect(), Qt::AlignCenter, QString(QChar(name[6])));
+    }
+    return die;
+}
+
+} // namespace
+
+MainWindow::MainWindow(Services services)
+    : m_services(std::move(services)),
+      m_sounds(m_services.player, [this] { return m_menu.suono->isChecked(); }), m_messages(this),
+      m_dictionary(m_state, m_files, m_services.alerts, m_services.yield, m_services.folder),
+      m_dealer(m_services.random, m_services.clock),
+      m_board(m_state, m_dealer, m_sounds, m_messages, *this), m_rules(m_services.folder) {
+    setObjectName("Form1");
+    m_menu = buildMenuBar(menuBar());
+    buildControls();
+
+    m_timer1 = new QTimer(this);
+    m_timer1->setObjectName("Timer1");
+    m_timer1->setInterval(1000);
+    connect(m_timer1, &QTimer::timeout, this, &MainWindow::clockTick);
+    m_timer2 = new QTimer(this);
+    m_timer2->setObjectName("Timer2");
+    m_timer2->setInterval(200);
+
+    m_prompt =
+        std::make_unique<ConfirmPrompt>(m_state, *m_timer1, m_messages, m_services.folder, this);
+    m_submission = std::make_unique<WordSubmission>(m_state, m_board, m_dictionary, m_files,
+                                                    m_sounds, m_messages, *this, *m_prompt);
+    m_opponent = std::make_unique<OpponentWalk>(
+        m_state, m_services.random, m_services.clock,
+        [this](const std::string& parola) { return m_dictionary.cercaParola(parola); },
+        m_services.yield, *this);
+    connect(m_timer2, &QTimer::timeout, this, [this] { m_opponent->tick(); });
+    wireMenu();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::buildControls() {
+    auto* area = new QWidget(this);
+    area->setObjectName("client");
+    area->setAutoFillBackground(true);
+    QPalette palette = area->palette();
+    palette.setColor(QPalette::Window, kDarkGreen);
+    palette.setColor(QPalette::WindowText, Qt::white);
+    area->setPalette(palette);
+    area->setFixedSize(632, 418);
+    setCentralWidget(area);
+
+    const QRect cell0 = twipsRect(kBoardLeft, kBoardTop, kDieTwips, kDieTwips);
+    const auto frames = boardFrames({kBoardLeft, kBoardTop, kDieTwips, kDieTwips});
+    for (int i = 1; i >= 0; --i) {
+        // Drawn a little wider than the block, so the frame shows around the dice.
+        auto* frame = new QWidget(area);
+        frame->setObjectName(QStringLiteral("Shape1_%1").arg(i));
+        const Rect& r = frames[i];
+        frame->setGeometry(twipsRect(r.left, r.top, r.width, r.height).adjusted(-3, -3, 3, 3));
+        frame->setAutoFillBackground(true);
+        QPalette fp = frame->palette();
+        fp.setColor(QPalette::Window, i == 0 ? QColor(20, 20, 20) : QColor(0, 30, 0));
+        frame->setPalette(fp);
+        m_frames[i] = frame;
+    }
+    for (int n = 0; n < kCells; ++n) {
+        auto* cell = new DieCell(n, area);
+        cell->setGeometry(
+            cell0.translated((n % kBoardSide) * cell0.width(), (n / kBoardSide) * cell0.height()));
+        connect(cell, &DieCell::pressed, this, &MainWindow::diePressed);
+        connect(cell, &DieCell::enterPressed, this, [this] { m_submission->inviaParola(); });
+        connect(cell, &DieCell::escapePressed, this, [this] { m_board.azzera(); });
+        m_cells[n] = cell;
+    }
+
+    // The panel is designed for a wider board and moved to sit just right of it.
+    const int d = kBoardLeft + 4 * kDieTwips + kDieTwips + kPanelGap - kDesignPanelLeft;
+    const auto at = [d](int left, int top, int width, int height) {
+        return twipsRect(left + d, top, width, height);
+    };
+    label(area, "Label2", "Parola composta", at(5340, 45, 1995, 195), Qt::white, kBlue);
+    m_word = label(area, "Label1", "", at(5340, 270, 1995, 330), Qt::black, QColor(255, 255, 192));
+    m_word->setFont(tahoma(12));
+    auto* ok = pictureButton(
+        area, "Command2", "&OK", at(5340, 660, 984, 915),
+        QString::fromStdString(resolveFileName(m_services.folder, "okbutton.gif").string()));
+    connect(ok, &QToolButton::clicked, this, [this] { m_submission->inviaParola(); });
+    auto* clear = pictureButton(
+        area, "Command1", "&Azzera ", at(6360, 660, 984, 915),
+        QString::fromStdString(resolveFileName(m_services.folder, "azzera.gif").string()));
+    connect(clear, &QToolButton::clicked, this, [this] { m_board.azzera(); });
+
+    m_clockFrame = label(area, "Label3", "", at(5310, 1695, 2025, 345), Qt::white, kRed);
+    m_timeBar = new TimeBar(area);
+    m_timeBar->setGeometry(at(5340, 1710, 1632, 300));
+    m_seconds = label(area, "Label4", "", at(6990, 1770, 300, 225), Qt::white, kRed);
+
+    label(area, "Label6", "Giocatore", at(5325, 2115, 720, 300), Qt::white, kDarkGreen);
+    m_playerName = new QLineEdit("BRIVO", area);
+    m_playerName->setObjectName("Text1");
+    m_playerName->setGeometry(at(6120, 2130, 1188, 252));
+    m_playerName->setMaxLength(12);
+    m_playerName->installEventFilter(this);
+
+    // The two headings overlap by a few pixels: this one keeps its text clear of the other.
+    label(area, "Label5", "Trovate da te", at(5295, 2505, 1050, 195), Qt::white, kBlue)
+        ->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    label(area, "Label9", "Tobia (CPU)", at(6300, 2505, 1050, 195), Qt::white, kDarkGrey);
+    m_playerWords = wordList(area, "List1", at(5295, 2685, 1020, 1590), Qt::cyan);
+    m_cpuWords = wordList(area, "List2", at(6300, 2685, 1020, 1590), QColor(192, 192, 192));
+    m_playerScore = label(area, "Label10", "0", at(5295, 4320, 555, 225), Qt::white, kBlue);
+    label(area, "Label7", "Punti", at(6022, 4320, 555, 225), Qt::white, kRed);
+    m_cpuScore = label(area, "Label11", "0", at(6750, 4320, 555, 225), Qt::white, kDarkGrey);
+
+    auto* link = label(area, "Label12", "griglione.example.org",
+                       twipsRect(5295 + d, 4590, 1995, 255), QColor(255, 255, 128), kDarkGreen);
+    link->setToolTip("Visita il sito dell'autore");
+    link->setCursor(Qt::PointingHandCursor);
+    m_cpuAttempt = label(area, "Label8", "", at(5340, 4860, 1950, 225), Qt::white, kDarkGreen);
+    m_cpuAttempt->hide();
+
+    m_logo = new QLabel(area);
+    m_logo->setObjectName("Picture3");
+    m_logo->setGeometry(twipsRect(6990, 4920, 3930, 3285));
+    m_logo->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+
+    // The name box comes first in the tab order, so it holds the focus when the window opens.
+    m_playerName->setFocus();
+    setFixedSize(area->width(), area->height() + menuBar()->sizeHint().height());
+}
+
+void MainWindow::wireMenu() {
+    connect(m_menu.nuovo, &QAction::triggered, this, &MainWindow::nuovaPartita);
+    connect(m_menu.fine, &QAction::triggered, this, &MainWindow::quit);
+    connect(m_menu.suono, &QAction::triggered, this, &MainWindow::salvaImpostazioni);
+    connect(m_menu.paroleAmmesse, &QAction::triggered, this, &MainWindow::showRules);
+    for (std::size_t i = 0; i < m_menu.tempi.size(); ++i)
+        connect(m_menu.tempi[i], &QAction::triggered, this, [this, i] { chooseMatchLength(i); });
+    for (std::size_t i = 0; i < m_menu.livelli.size(); ++i)
+        connect(m_menu.livelli[i], &QAction::triggered, this, [this, i] { chooseLevel(i); });
+    for (std::size_t i = 0; i < m_menu.lingue.size(); ++i)
+        connect(m_menu.lingue[i], &QAction::triggered, this,
+                [this, i](bool checkedNow) { chooseLanguage(i, !checkedNow); });
+    for (std::size_t i = 0; i < m_menu.spessori.size(); ++i)
+        connect(m_menu.spessori[i], &QAction::triggered, this, [this, i] { chooseLineWidth(i); });
+}
+
+void MainWindow::startUp() {
+    move(0, 0);
+    m_board.lanciaDadi(false);
+    m_state.tempoPartita = 120;
+    m_state.spessoreLinea = 7;
+    m_state.numDizionario = 1;
+    readSettings();
+    m_timer1->stop();
+    m_clockFrame->setText("");
+    std::size_t width = 1;
+    if (m_state.spessoreLinea == 1) width = 0;
+    if (m_state.spessoreLinea == 13) width = 2;
+    m_state.spessoreLinea = static_cast<std::int16_t>(kLineWidths[width].spessore);
+    m_menu.spessori[width]->setChecked(true);
+    settaSpessLinea();
+    aggMenudiz();
+    m_logo->setPixmap(picture("griglione.gif"));
+}
+
+void MainWindow::readSettings() {
+    const auto bytes = readWholeFile(m_services.folder / std::string(kSettingsFileName));
+    if (!bytes) return;
+    Settings settings = currentSettings();
+    applySettingsFile(*bytes, settings);
+
+    m_timer2->setInterval(settings.timer2Interval);
+    for (std::size_t i = 0; i < m_menu.livelli.size(); ++i)
+        if (settings.levelChecked[i]) m_menu.livelli[i]->setChecked(true);
+    m_menu.suono->setChecked(settings.sound);
+    for (std::size_t i = 0; i < m_menu.tempi.size(); ++i)
+        m_menu.tempi[i]->setChecked(settings.timeChecked[i]);
+    m_state.tempoPartita = static_cast<std::int16_t>(settings.tempoPartita);
+    m_playerName->setText(QString::fromStdString(settings.playerName));
+    m_state.spessoreLinea = static_cast<std::int16_t>(
+        settings.spessoreLinea == 1 || settings.spessoreLinea == 13 ? settings.spessoreLinea : 7);
+    m_state.numDizionario = static_cast<std::int16_t>(settings.numDizionario);
+}
+
+Settings MainWindow::currentSettings() const {
+    Settings settings;
+    settings.timer2Interval = m_timer2->interval();
+    settings.sound = m_menu.suono->isChecked();
+    settings.tempoPartita = m_state.tempoPartita;
+    settings.playerName = m_playerName->text().toStdString();
+    settings.spessoreLinea = m_state.spessoreLinea;
+    settings.numDizionario = m_state.numDizionario;
+    return settings;
+}
+
+void MainWindow::salvaImpostazioni() {
+    if (!writeFileAtomically(m_services.folder / std::string(kSettingsFileName),
+                             settingsFileBytes(currentSettings())))
+        m_services.alerts.avviso(
+            "Errore 001: impossibile riscivere il file di inizializzazione ZARMOLO.INI");
+}
+
+void MainWindow::settaSpessLinea() {
+    changed(Aspect::Path);
+}
+
+void MainWindow::aggMenudiz() {
+    std::size_t language = 0;
+    if (m_state.numDizionario == 2) language = 1;
+    if (m_state.numDizionario == 3) language = 2;
+    checkOnly(m_menu.lingue, language);
+    m_state.nomeDizionario = std::string(kLanguages[language].nome);
+    setWindowTitle(QString::fromStdString("Il Griglione - Dizionario " + m_state.nomeDizionario));
+    m_dictionary.prendidiz();
+}
+
+std::array<bool, 4> MainWindow::levelChecks() const {
+    std::array<bool, 4> checks{};
+    for (std::size_t i = 0; i < checks.size(); ++i)
+        checks[i] = m_menu.livelli[i]->isChecked();
+    return checks;
+}
+
+void MainWindow::startPartita() {
+    m_timer1->stop();
+    m_timer2->stop();
+    m_state.messaggio = startMessage(m_state, levelChecks());
+    m_messages.mostraMessaggio(m_state.messaggio, true);
+}
+
+void MainWindow::nuovaPartita() {
+    m_timer1->start();
+    m_timer2->start();
+    m_state.secondiTrascorsi = 0;
+    m_timeBar->clear();
+    m_board.lanciaDadi(true);
+    m_board.azzeraParola();
+}
+
+void MainWindow::restartAfterSettingChange() {
+    startPartita();
+    m_board.lanciaDadi(true);
+    m_board.azzeraParola();
+    m_state.secondiTrascorsi = 0;
+    m_timer1->start();
+    m_timer2->start();
+}
+
+void MainWindow::clockTick() {
+    // A tick that falls due while an earlier one waits for a modal window is dropped.
+    if (m_inClockTick) return;
+    m_inClockTick = true;
+    if (countSecond(m_state)) endOfMatch();
+    if (m_state.ultimaCella >= 0) m_board.blink();
+    m_timeBar->fillTo(
+        timeBarWidth(m_timeBar->innerWidth(), m_state.tempoPartita, m_state.secondiTrascorsi));
+    m_seconds->setText(QString::fromStdString(secondsLabel(m_state.secondiTrascorsi)));
+    m_seconds->adjustSize();
+    m_inClockTick = false;
+}
+
+void MainWindow::endOfMatch() {
+    m_timer2->stop();
+    m_timer1->stop();
+    if (!m_endOfMatch)
+        m_endOfMatch = new EndOfMatchWindow(*m_timer1, *m_timer2, m_sounds, m_messages,
+                                            m_services.terminate, this);
+    m_endOfMatch->hide();
+    m_endOfMatch->showResult(m_playerName->text(), m_playerScore->text().toInt(),
+                             m_cpuScore->text().toInt(), levelChecks());
+    if (m_state.puntiGiocatore > 1000) m_state.inserisciRecord = true;
+    m_board.lanciaDadi(true);
+    m_board.azzeraParola();
+    m_state.secondiTrascorsi = 0;
+}
+
+void MainWindow::diePressed(int n, int button) {
+    if (m_board.press(n, button, m_timer1->isActive()) == PressResult::StartMatch) {
+        startPartita();
+        nuovaPartita();
+    }
+}
+
+void MainWindow::chooseMatchLength(std::size_t item) {
+    checkOnly(m_menu.tempi, item);
+    m_state.tempoPartita = static_cast<std::int16_t>(kMatchLengths[item].seconds);
+    salvaImpostazioni();
+    restartAfterSettingChange();
+}
+
+void MainWindow::chooseLevel(std::size_t item) {
+    checkOnly(m_menu.livelli, item);
+    m_timer2->setInterval(kLevels[item].interval);
+    salvaImpostazioni();
+}
+
+void MainWindow::chooseLanguage(std::size_t item, bool wasChecked) {
+    if (wasChecked) {
+        m_menu.lingue[item]->setChecked(true);
+        return;
+    }
+    m_state.numDizionario = static_cast<std::int16_t>(kLanguages[item].numero);
+    // Latin is saved before its dictionary is loaded: a missing file then ends the program with
+    // the settings already naming Latin.
+    if (item == 2) {
+        salvaImpostazioni();
+        aggMenudiz();
+    } else {
+        aggMenudiz();
+        salvaImpostazioni();
+    }
+    restartAfterSettingChange();
+}
+
+void MainWindow::chooseLineWidth(std::size_t item) {
+    checkOnly(m_menu.spessori, item);
+    m_state.spessoreLinea = static_cast<std::int16_t>(kLineWidths[item].spessore);
+    salvaImpostazioni();
+    settaSpessLinea();
+}
+
+void MainWindow::showRules() {
+    const std::string& rules = m_rules.text(m_services.alerts);
+    if (m_playerName->isVisible()) m_playerName->setFocus();
+    m_state.messaggio = {"INFO!", "Informazioni dizionario", rules};
+    m_messages.mostraMessaggio(m_state.messaggio, false);
+}
+
+void MainWindow::quit() {
+    m_timer2->stop();
+    m_timer1->stop();
+    if (m_state.puntiGiocatore > 999) {
+        m_state.inserisciRecord = true;
+        m_state.uscitaDopoRecord = true;
+    }
+    QApplication::quit();
+}
+
+QPixmap MainWindow::picture(const std::string& name) {
+    const QString key = QString::fromStdString(name);
+    auto it = m_pictures.find(key);
+    if (it == m_pictures.end()) {
+        QPixmap pixmap(QString::fromStdString(resolveFileName(m_services.folder, name).string()));
+        if (pixmap.isNull() && name.rfind("zarM", 0) == 0) pixmap = fallbackDie(name);
+        it = m_pictures.insert(key, pixmap);
+    }
+    return *it;
+}
+
+void MainWindow::syncList(QListWidget* list, const std::vector<std::string>& words) {
+    if (static_cast<std::size_t>(list->count()) > words.size()) list->clear();
+    for (std::size_t i = static_cast<std::size_t>(list->count()); i < words.size(); ++i)
+        list->addItem(QString::fromStdString(words[i]));
+    if (list->count() > 0) list->setCurrentRow(list->count() - 1);
+}
+
+void MainWindow::changed(Aspect aspect) {
+    switch (aspect) {
+    case Aspect::Board:
+        for (int n = 0; n < kCells; ++n)
+            m_cells[n]->setPicture(picture(m_state.immagineCella[n]));
+        break;
+    case Aspect::Word:
+        m_word->setText(QString::fromStdString(m_state.parolaComposta));
+        break;
+    case Aspect::Path:
+        for (int n = 0; n < kCells; ++n)
+            m_cells[n]->setMarks(m_board.path().marks(n), m_state.spessoreLinea + 5);
+        break;
+    case Aspect::PlayerWords:
+        syncList(m_playerWords, m_state.paroleGiocatore);
+        break;
+    case Aspect::CpuWords:
+        syncList(m_cpuWords, m_state.paroleCPU);
+        break;
+    case Aspect::Scores:
+        m_playerScore->setText(QString::number(m_state.puntiGiocatore));
+        m_cpuScore->setText(QString::number(m_state.puntiCPU));
+        break;
+    case Aspect::TimeBar:
+        m_timeBar->clear();
+        break;
+    case Aspect::CpuAttempt:
+        m_cpuAttempt->setText(QString::fromStdString(m_state.ultimoTentativoCPU));
+        break;
+    }
+}
+
+void MainWindow::setBusy(bool busy) {
+    if (busy)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        m_submission->inviaParola();
+    else
+        QMainWindow::keyPressEvent(event);
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    // The name is saved when the focus moves to another control of this window, not when a
+    // menu or another window takes it for a while.
+    if (watched == m_playerName && event->type() == QEvent::FocusOut) {
+        const auto reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
+            m_playerName->setText(m_playerName->text().toUpper());
+            salvaImpostazioni();
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    m_timer1->stop();
+    m_timer2->stop();
+    event->accept();
+    QApplication::quit();
+}
+
+} // namespace griglione

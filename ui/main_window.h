@@ -1,0 +1,135 @@
+// The main window (Form1): the board, the word panel, the clock, the two word lists and the menu
+// bar. It owns the shared game state and wires its controls to the game's logic.
+#pragma once
+
+#include "board/board_game.h"
+#include "board/dealer.h"
+#include "board/word_submission.h"
+#include "core/game_state.h"
+#include "core/ports.h"
+#include "core/settings.h"
+#include "core/switched_sounds.h"
+#include "dictionary/dictionary.h"
+#include "dictionary/open_file_table.h"
+#include "dictionary/rules_text.h"
+#include "opponent/opponent_walk.h"
+#include "ui/confirm_window.h"
+#include "ui/menu_bar.h"
+#include "ui/message_window.h"
+
+#include <QHash>
+#include <QMainWindow>
+#include <QPixmap>
+
+#include <array>
+#include <filesystem>
+#include <functional>
+#include <memory>
+
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QTimer;
+class QToolButton;
+
+namespace griglione {
+
+class DieCell;
+class EndOfMatchWindow;
+class TimeBar;
+
+// What the window needs from outside: the real ones in the program, fakes in tests.
+struct Services {
+    Sounds& player;
+    Alerts& alerts;
+    const Clock& clock;
+    Random& random;
+    std::function<void()> yield;
+    std::filesystem::path folder = ".";
+    // Ends the program at once, with nothing saved.
+    std::function<void()> terminate;
+};
+
+class MainWindow final : public QMainWindow, public GameView {
+    Q_OBJECT
+public:
+    explicit MainWindow(Services services);
+    ~MainWindow() override;
+
+    // The start-up steps, run once before the window is first shown.
+    void startUp();
+
+    // Stops the match and announces a new one (modal "START" message); deals nothing.
+    void startPartita();
+    // Restarts the clock on a new board, without an announcement.
+    void nuovaPartita();
+    void salvaImpostazioni();
+    void settaSpessLinea();
+    void aggMenudiz();
+
+    GameState& state() { return m_state; }
+    const MenuActions& menu() const { return m_menu; }
+    MessageHost& messages() { return m_messages; }
+
+    void changed(Aspect aspect) override;
+    void setBusy(bool busy) override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void buildControls();
+    void wireMenu();
+    void readSettings();
+    Settings currentSettings() const;
+    std::array<bool, 4> levelChecks() const;
+    void clockTick();
+    void endOfMatch();
+    void diePressed(int n, int button);
+    void restartAfterSettingChange();
+    void chooseMatchLength(std::size_t item);
+    void chooseLevel(std::size_t item);
+    void chooseLanguage(std::size_t item, bool wasChecked);
+    void chooseLineWidth(std::size_t item);
+    void showRules();
+    void quit();
+    QPixmap picture(const std::string& name);
+    void syncList(QListWidget* list, const std::vector<std::string>& words);
+
+    Services m_services;
+    GameState m_state;
+    MenuActions m_menu;
+    SwitchedSounds m_sounds;
+    MessageHost m_messages;
+    OpenFileTable m_files;
+    Dictionary m_dictionary;
+    Dealer m_dealer;
+    BoardGame m_board;
+    RulesText m_rules;
+    QTimer* m_timer1 = nullptr;
+    QTimer* m_timer2 = nullptr;
+    std::unique_ptr<ConfirmPrompt> m_prompt;
+    std::unique_ptr<WordSubmission> m_submission;
+    std::unique_ptr<OpponentWalk> m_opponent;
+    EndOfMatchWindow* m_endOfMatch = nullptr;
+    bool m_inClockTick = false;
+
+    std::array<DieCell*, kCells> m_cells{};
+    QLabel* m_word = nullptr;             // Label1
+    QLineEdit* m_playerName = nullptr;    // Text1
+    QListWidget* m_playerWords = nullptr; // List1
+    QListWidget* m_cpuWords = nullptr;    // List2
+    QLabel* m_playerScore = nullptr;      // Label10
+    QLabel* m_cpuScore = nullptr;         // Label11
+    QLabel* m_seconds = nullptr;          // Label4
+    QLabel* m_clockFrame = nullptr;       // Label3
+    QLabel* m_cpuAttempt = nullptr;       // Label8
+    QLabel* m_logo = nullptr;             // Picture3
+    TimeBar* m_timeBar = nullptr;         // Picture2
+    std::array<QWidget*, 2> m_frames{};   // Shape1(0) frame and Shape1(1) shadow
+    QHash<QString, QPixmap> m_pictures;
+};
+
+} // namespace griglione

@@ -1,0 +1,51 @@
+// The program's own message window (Form8): a five-letter headline in big flashing letters, a
+// heading in the caption, a scrolling body and an OK button.
+#pragma once
+
+#include "core/game_state.h"
+#include "core/letter_flash.h"
+#include "core/ports.h"
+
+#include <QDialog>
+#include <QPointer>
+
+#include <array>
+
+class QLabel;
+class QTimer;
+
+namespace griglione {
+
+class MessageWindow final : public QDialog {
+    Q_OBJECT
+public:
+    MessageWindow(const Messaggio& messaggio, QWidget* parent);
+
+    // One step of the headline's colour animation (the 80 ms timer calls it).
+    void flash();
+
+private:
+    std::array<QLabel*, 5> m_letters{};
+    LetterFlash m_flash;
+    QTimer* m_timer = nullptr;
+};
+
+// Keeps the one message window of the program: every message closes the previous window and
+// opens a new one, modal or not as the caller asks.
+class MessageHost final : public Messages {
+public:
+    explicit MessageHost(QWidget* parent) : m_parent(parent) {}
+
+    void mostraMessaggio(const Messaggio& messaggio, bool modal) override;
+    void chiudi();
+    MessageWindow* window() const { return m_window; }
+
+private:
+    QWidget* m_parent;
+    QPointer<MessageWindow> m_window;
+};
+
+// Places a window in the middle of the screen.
+void centreOnScreen(QWidget* window);
+
+} // namespace griglione

@@ -1,0 +1,31 @@
+#include "ui/time_bar.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace griglione {
+
+TimeBar::TimeBar(QWidget* parent) : QWidget(parent) {
+    setObjectName("Picture2");
+}
+
+void TimeBar::fillTo(int x) {
+    m_filled = std::clamp(std::max(m_filled, x), 0, innerWidth());
+    update();
+}
+
+void TimeBar::clear() {
+    m_filled = 0;
+    update();
+}
+
+void TimeBar::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), Qt::white);
+    painter.setPen(QColor(64, 64, 64));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.fillRect(1, 1, m_filled, height() - 2, QColor(0, 0, 128));
+}
+
+} // namespace griglione
