@@ -19,31 +19,10 @@ void DieCell::setPicture(const QPixmap& picture) {
     update();
 }
 
-void DieCell::setMarks(const CellMarks& marks, int lineWidth) {
-    m_marks = marks;
-    m_lineWidth = lineWidth;
-    update();
-}
-
 void DieCell::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), QColor(0, 64, 0));
     painter.drawPixmap(0, 0, m_picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor(0, 0, 128), m_lineWidth, Qt::SolidLine, Qt::RoundCap));
-    const auto draw = [&](const Segment& segment) {
-        if (segment.hidden()) return;
-        const auto [x1, y1] = anchorPoint(segment.from);
-        const auto [x2, y2] = anchorPoint(segment.to);
-        if (segment.from == segment.to) { // the first die of a word: a dot
-            painter.drawPoint(QPointF(x1 * width(), y1 * height()));
-            return;
-        }
-        painter.drawLine(QPointF(x1 * width(), y1 * height()),
-                         QPointF(x2 * width(), y2 * height()));
-    };
-    if (m_marks.line1Visible) draw(m_marks.line1);
-    draw(m_marks.line2);
 }
 
 void DieCell::mousePressEvent(QMouseEvent* event) {

@@ -1,7 +1,5 @@
-// One die of the board (Picture1(n)): its picture and the two path segments drawn on it.
+// One die of the board (Picture1(n)): its picture, and the presses and keys it receives.
 #pragma once
-
-#include "board/path.h"
 
 #include <QPixmap>
 #include <QWidget>
@@ -14,7 +12,6 @@ public:
     DieCell(int index, QWidget* parent);
 
     void setPicture(const QPixmap& picture);
-    void setMarks(const CellMarks& marks, int lineWidth);
 
 signals:
     // `button` is the press's code: 1 left, 2 right, 4 middle.
@@ -30,8 +27,6 @@ protected:
 private:
     int m_index;
     QPixmap m_picture;
-    CellMarks m_marks;
-    int m_lineWidth = 12;
 };
 
 } // namespace griglione

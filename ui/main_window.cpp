@@ -9,6 +9,7 @@
 #include "ui/colours.h"
 #include "ui/die_cell.h"
 #include "ui/end_of_match_window.h"
+#include "ui/path_overlay.h"
 #include "ui/time_bar.h"
 #include "ui/twips.h"
 
@@ -159,6 +160,8 @@ void MainWindow::buildControls() {
         connect(cell, &DieCell::escapePressed, this, [this] { m_board.azzera(); });
         m_cells[n] = cell;
     }
+    m_pathOverlay = new PathOverlay(m_board.path(), cell0.size(), area);
+    m_pathOverlay->move(cell0.topLeft());
 
     // The panel is designed for a wider board and moved to sit just right of it.
     const int d = kBoardLeft + 4 * kDieTwips + kDieTwips + kPanelGap - kDesignPanelLeft;
@@ -452,8 +455,7 @@ void MainWindow::changed(Aspect aspect) {
         m_word->setText(QString::fromStdString(m_state.parolaComposta));
         break;
     case Aspect::Path:
-        for (int n = 0; n < kCells; ++n)
-            m_cells[n]->setMarks(m_board.path().marks(n), m_state.spessoreLinea + 5);
+        m_pathOverlay->setLineWidth(m_state.spessoreLinea + 5);
         break;
     case Aspect::PlayerWords:
         syncList(m_playerWords, m_state.paroleGiocatore);

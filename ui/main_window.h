@@ -36,6 +36,7 @@ namespace griglione {
 
 class DieCell;
 class EndOfMatchWindow;
+class PathOverlay;
 class TimeBar;
 
 // What the window needs from outside: the real ones in the program, fakes in tests.
@@ -128,6 +129,7 @@ private:
     QLabel* m_cpuAttempt = nullptr;       // Label8
     QLabel* m_logo = nullptr;             // Picture3
     TimeBar* m_timeBar = nullptr;         // Picture2
+    PathOverlay* m_pathOverlay = nullptr; // the traced path over the dice
     std::array<QWidget*, 2> m_frames{};   // Shape1(0) frame and Shape1(1) shadow
     QHash<QString, QPixmap> m_pictures;
 };
