@@ -36,6 +36,9 @@ constexpr int kDieTwips = 64 * kTwipsPerPixel;
 constexpr int kPanelGap = 47;
 constexpr int kDesignPanelLeft = 5340;
 
+// The whole window, frame included, at the top-left corner of the screen.
+constexpr QSize kWindowSize(640, 470);
+
 const QColor kDarkGreen(0, 64, 0);
 const QColor kBlue(0, 0, 128);
 const QColor kRed(128, 0, 0);
@@ -134,7 +137,7 @@ void MainWindow::buildControls() {
     palette.setColor(QPalette::Window, kDarkGreen);
     palette.setColor(QPalette::WindowText, Qt::white);
     area->setPalette(palette);
-    area->setFixedSize(632, 418);
+    area->setMinimumSize(632, 418);
     setCentralWidget(area);
 
     const QRect cell0 = twipsRect(kBoardLeft, kBoardTop, kDieTwips, kDieTwips);
@@ -216,7 +219,7 @@ void MainWindow::buildControls() {
 
     // The name box comes first in the tab order, so it holds the focus when the window opens.
     m_playerName->setFocus();
-    setFixedSize(area->width(), area->height() + menuBar()->sizeHint().height());
+    setFixedSize(kWindowSize);
 }
 
 void MainWindow::wireMenu() {
@@ -233,6 +236,15 @@ void MainWindow::wireMenu() {
                 [this, i](bool checkedNow) { chooseLanguage(i, !checkedNow); });
     for (std::size_t i = 0; i < m_menu.spessori.size(); ++i)
         connect(m_menu.spessori[i], &QAction::triggered, this, [this, i] { chooseLineWidth(i); });
+}
+
+void MainWindow::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    // The frame's size is known only once the window system has framed the window.
+    QTimer::singleShot(0, this, [this] {
+        setFixedSize(kWindowSize - (frameGeometry().size() - geometry().size()));
+        move(0, 0);
+    });
 }
 
 void MainWindow::startUp() {
