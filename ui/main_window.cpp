@@ -240,11 +240,17 @@ void MainWindow::wireMenu() {
 
 void MainWindow::showEvent(QShowEvent* event) {
     QMainWindow::showEvent(event);
-    // The frame's size is known only once the window system has framed the window.
-    QTimer::singleShot(0, this, [this] {
-        setFixedSize(kWindowSize - (frameGeometry().size() - geometry().size()));
-        move(0, 0);
-    });
+    fitFrame(10);
+}
+
+void MainWindow::fitFrame(int tries) {
+    // The frame's size is known only once the window manager has framed the window, a moment
+    // after it is shown; without a window manager there is no frame.
+    const QSize frame = frameGeometry().size() - geometry().size();
+    setFixedSize(kWindowSize - frame);
+    move(0, 0);
+    if (frame.isEmpty() && tries > 0)
+        QTimer::singleShot(50, this, [this, tries] { fitFrame(tries - 1); });
 }
 
 void MainWindow::startUp() {

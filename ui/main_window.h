@@ -83,6 +83,7 @@ protected:
 
 private:
     void buildControls();
+    void fitFrame(int tries);
     void wireMenu();
     void readSettings();
     Settings currentSettings() const;
