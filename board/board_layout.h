@@ -10,22 +10,6 @@ namespace griglione {
 
 inline constexpr std::string_view kBlankDie = "zarMolo.gif";
 
-// Row and column counted from 1, as the adjacency test counts them.
-constexpr int rigaCella(int n) {
-    return n / kBoardSide + 1;
-}
-constexpr int colonnaCella(int n) {
-    return n % kBoardSide + 1;
-}
-
-// True when the two cells touch horizontally, vertically or diagonally. Comparing rows and
-// columns keeps a step from wrapping around the edge: cells 4 and 5 do not touch.
-constexpr bool celleAdiacenti(int p, int n) {
-    const int dr = rigaCella(n) - rigaCella(p);
-    const int dc = colonnaCella(n) - colonnaCella(p);
-    return dr >= -1 && dr <= 1 && dc >= -1 && dc <= 1;
-}
-
 // "zarMmgA3.gif" for letter A, face 3.
 std::string dieName(char letter, int face);
 

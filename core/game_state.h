@@ -11,6 +11,22 @@ namespace griglione {
 inline constexpr int kCells = 25;
 inline constexpr int kBoardSide = 5;
 
+// Row and column of a cell counted from 1, as the adjacency tests count them.
+constexpr int rigaCella(int n) {
+    return n / kBoardSide + 1;
+}
+constexpr int colonnaCella(int n) {
+    return n % kBoardSide + 1;
+}
+
+// True when the two cells touch horizontally, vertically or diagonally. Comparing rows and
+// columns keeps a step from wrapping around the edge: cells 4 and 5 do not touch.
+constexpr bool celleAdiacenti(int p, int n) {
+    const int dr = rigaCella(n) - rigaCella(p);
+    const int dc = colonnaCella(n) - colonnaCella(p);
+    return dr >= -1 && dr <= 1 && dc >= -1 && dc <= 1;
+}
+
 // Headline, heading and body of the message window.
 struct Messaggio {
     std::string titolo;

@@ -1,6 +1,7 @@
 // The opponent's walk, drawn afresh at every tick from a generator re-seeded by the clock.
 #include "opponent/opponent_walk.h"
 
+#include "core/ansi_text.h"
 #include "core/number_text.h"
 
 #include <algorithm>
@@ -19,19 +20,11 @@ constexpr std::size_t kLetterIndex = 6;
 constexpr int kRunawayDraws = 10'000;
 
 bool isNeighbour(int from, int to) {
-    if (to < 0 || to >= kCells) return false;
-    return std::abs(to / kBoardSide - from / kBoardSide) <= 1 &&
-           std::abs(to % kBoardSide - from % kBoardSide) <= 1;
+    return to >= 0 && to < kCells && celleAdiacenti(from, to);
 }
 
 bool contains(const std::vector<std::string>& words, const std::string& word) {
     return std::find(words.begin(), words.end(), word) != words.end();
-}
-
-std::string lowerCase(std::string word) {
-    for (char& c : word)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    return word;
 }
 
 } // namespace
@@ -99,7 +92,7 @@ bool OpponentWalk::appendLetter(int cell) {
 
 bool OpponentWalk::judge(const std::string& answer) {
     if (answer == "SI") {
-        const std::string word = lowerCase(m_parolaCPU);
+        const std::string word = lowerAscii(m_parolaCPU);
         if (contains(m_state.paroleGiocatore, word) || contains(m_state.paroleCPU, word))
             return false;
         m_state.paroleCPU.push_back(word);
