@@ -1,0 +1,69 @@
+// Reading Collatinus's lemma counts and splitting Hunspell stems into groups by them.
+#include "tools/dictionaries/stem_ranking.h"
+
+#include <gtest/gtest.h>
+
+namespace griglione {
+namespace {
+
+// Lines as lemmes.la writes them: quantity marks, combining breves, homograph numbers,
+// radical lists, proper names, comments.
+const char* const lemmes = "! lemmes.la\n"
+                           "!Version 1\n"
+                           "ămo|amo|||as, are|809\n"
+                           "lĕgo|lego|lēg|lēct|is, ere, legi, lectum|619\n"
+                           "lēgo2|amo|||as, are|12\n"
+                           "lĕgĭo=lĕgĭō̆|miles|lĕgĭōn||onis, f.|1283\r\n"
+                           "ĕo|eo|ĭ,īv|ĭt|is, ire, iui, itum|1447\n"
+                           "ā=ā,ăb,ābs|inv|||prép. + abl.|5874\n"
+                           "Ăbās|ciuis|Ăbānt||antis, m.|5\n"
+                           "broken line\n"
+                           "vĭr|puer|||uiri, m.|2702\n";
+
+TEST(StemRanking, CountsEveryFormAStemOfTheLemmaMayTake) {
+    const auto counts = latinLemmaCounts(lemmes);
+    const std::pair<const char*, long> cases[] = {
+        {"AMO", 809},    {"LEGO", 619},      // the larger count of two homographs
+        {"LEGI", 619},   {"LECTUM", 619},    // perfect and supine from the radicals
+        {"LEGIO", 1283}, {"LEGIONIS", 1283}, // genitive from the radical
+        {"II", 1447},    {"IVI", 1447},      {"ITUM", 1447}, {"ABS", 5874}, {"VIR", 2702},
+    };
+    for (const auto& [form, count] : cases) {
+        const auto found = counts.find(form);
+        ASSERT_NE(found, counts.end()) << form;
+        EXPECT_EQ(found->second, count) << form;
+    }
+    EXPECT_FALSE(counts.contains("ABAS")); // proper name
+    EXPECT_FALSE(counts.contains("LEGO2"));
+    EXPECT_FALSE(counts.contains("BROKEN LINE"));
+}
+
+TEST(StemRanking, SplitsTheStemsIntoDicFilesByCount) {
+    const auto counts = latinLemmaCounts(lemmes);
+    const std::string dic = "9\n"
+                            "amo/APS\n"
+                            "legionis/d\n"
+                            "legi/P\n"
+                            "lego/APS\n"
+                            "rarissimus/abc\n"
+                            "Roma/a\n"
+                            "A.\n"
+                            "# comment\n"
+                            "vir\r\n";
+    const auto files = splitStemsByCount(dic, counts, {1000, 700});
+    ASSERT_EQ(files.size(), 3u);
+    EXPECT_EQ(files[0], "2\nlegionis/d\nvir\n");
+    EXPECT_EQ(files[1], "1\namo/APS\n");
+    EXPECT_EQ(files[2], "3\nlegi/P\nlego/APS\nrarissimus/abc\n");
+}
+
+TEST(StemRanking, AListedWordCountsOnce) {
+    const auto counts = listedWordCounts("casa\nCittà\nperché\r\n\n");
+    EXPECT_EQ(counts, (std::map<std::string, long>{{"CASA", 1}, {"PERCHE", 1}}));
+    const auto files = splitStemsByCount("3\ncasa/o\nlottizzare/A\nperché\n", counts, {1});
+    EXPECT_EQ(files[0], "2\ncasa/o\nperché\n");
+    EXPECT_EQ(files[1], "1\nlottizzare/A\n");
+}
+
+} // namespace
+} // namespace griglione

@@ -1,0 +1,160 @@
+// The generator's compiled half: trims a Hunspell affix file before expansion, splits the Latin
+// stems by the corpus count of their lemma, and writes a dictionary file SLESSICO.<n> from
+// plain UTF-8 word lists with the game's own writer.
+// make_dictionaries.sh drives it; run without arguments for the usage.
+#include "core/atomic_file.h"
+#include "dictionary/dictionary_format.h"
+#include "tools/dictionaries/affix_trim.h"
+#include "tools/dictionaries/stem_ranking.h"
+#include "tools/dictionaries/word_filter.h"
+#include "tools/dictionaries/word_selection.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <sstream>
+#include <string>
+#include <vector>
+
+using namespace griglione;
+
+namespace {
+
+int usage() {
+    std::fputs("usage:\n"
+               "  make_dictionary trim-affixes italian|latin IN.aff OUT.aff\n"
+               "  make_dictionary split-stems lemmes|list FILE IN.dic OUT_PREFIX COUNT,COUNT...\n"
+               "    writes OUT_PREFIX1.dic (stems whose count is at least the first COUNT),\n"
+               "    OUT_PREFIX2.dic... and one more with the other stems; the counts come from\n"
+               "    Collatinus's lemmes.la, or are 1 for each word of a plain list\n"
+               "  make_dictionary build LANGUAGE NOTICE OUT TIER...\n"
+               "    LANGUAGE  1 (Italian), 2 (English) or 3 (Latin)\n"
+               "    NOTICE    the file's notice, ASCII; {count} stands for the number of words\n"
+               "    TIER      one or more UTF-8 word lists joined by commas; earlier tiers win\n"
+               "              when a length has more words than the editor can hold\n",
+               stderr);
+    return 2;
+}
+
+int fail(const std::string& message) {
+    std::fprintf(stderr, "make_dictionary: %s\n", message.c_str());
+    return 1;
+}
+
+int trimAffixFile(const std::string& language, const std::string& in, const std::string& out) {
+    AffixRules rules;
+    if (language == "italian")
+        rules = italianAffixRules();
+    else if (language == "latin")
+        rules = latinAffixRules();
+    else
+        return usage();
+    const auto text = readWholeFile(in);
+    if (!text) return fail("cannot read " + in);
+    const AffixTrim trim = trimAffixes(*text, rules);
+    if (!writeFileAtomically(out, trim.text)) return fail("cannot write " + out);
+    std::printf("%s: %zu affix entries kept, %zu dropped\n", out.c_str(), trim.kept, trim.dropped);
+    return 0;
+}
+
+int splitStems(const std::string& kind, const std::string& source, const std::string& dic,
+               const std::string& prefix, const std::string& thresholdList) {
+    if (kind != "lemmes" && kind != "list") return usage();
+    std::vector<long> thresholds;
+    std::stringstream list(thresholdList);
+    std::string item;
+    while (std::getline(list, item, ','))
+        thresholds.push_back(std::stol(item));
+    const auto sourceText = readWholeFile(source);
+    if (!sourceText) return fail("cannot read " + source);
+    const auto dicText = readWholeFile(dic);
+    if (!dicText) return fail("cannot read " + dic);
+    const auto counts =
+        kind == "lemmes" ? latinLemmaCounts(*sourceText) : listedWordCounts(*sourceText);
+    const auto files = splitStemsByCount(*dicText, counts, thresholds);
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        const std::string name = prefix + std::to_string(i + 1) + ".dic";
+        if (!writeFileAtomically(name, files[i])) return fail("cannot write " + name);
+        std::printf("%s: %s stems\n", name.c_str(),
+                    files[i].substr(0, files[i].find('\n')).c_str());
+    }
+    return 0;
+}
+
+// Adds the admitted words of the comma-separated lists to `words`.
+bool readTier(const std::string& files, Language language, std::vector<std::string>& words) {
+    std::stringstream names(files);
+    std::string name;
+    while (std::getline(names, name, ',')) {
+        const auto text = readWholeFile(name);
+        if (!text) {
+            fail("cannot read " + name);
+            return false;
+        }
+        std::size_t lines = 0, admitted = 0;
+        std::stringstream in(*text);
+        std::string line;
+        while (std::getline(in, line)) {
+            if (!line.empty() && line.back() == '\r') line.pop_back();
+            ++lines;
+            if (auto word = admitWord(line, language)) {
+                words.push_back(std::move(*word));
+                ++admitted;
+            }
+        }
+        std::printf("  %s: %zu of %zu lines admitted\n", name.c_str(), admitted, lines);
+    }
+    return true;
+}
+
+int buildDictionary(int argc, char** argv) {
+    const std::string number = argv[2];
+    if (number != "1" && number != "2" && number != "3") return usage();
+    const auto language = static_cast<Language>(std::stoi(number));
+    const std::string out = argv[4];
+
+    WordSelection selection;
+    for (int i = 5; i < argc; ++i) {
+        std::vector<std::string> words;
+        if (!readTier(argv[i], language, words)) return 1;
+        const WordLists before = selection.lists();
+        const std::size_t taken = selection.addTier(words);
+        const WordLists after = selection.lists();
+        std::printf("  tier %d: %zu new words taken; by length:", i - 4, taken);
+        for (std::size_t k = 0; k < after.size(); ++k)
+            std::printf(" %zu", after[k].size() - before[k].size());
+        std::printf("\n");
+    }
+    const WordLists lists = selection.lists();
+
+    std::string notice = argv[3];
+    const std::size_t mark = notice.find("{count}");
+    if (mark != std::string::npos) notice.replace(mark, 7, std::to_string(selection.size()));
+    if (notice.size() > static_cast<std::size_t>(kNoticeLength))
+        return fail("the notice has " + std::to_string(notice.size()) + " characters, more than " +
+                    std::to_string(kNoticeLength));
+    if (std::any_of(notice.begin(), notice.end(),
+                    [](char c) { return c < ' ' || static_cast<unsigned char>(c) > 126; }))
+        return fail("the notice must be printable ASCII");
+
+    const std::string file = buildDictionaryFile(notice, lists);
+    if (file.empty()) return fail("too many words: a position would pass 9,999,999");
+    if (!writeFileAtomically(out, file)) return fail("cannot write " + out);
+
+    // One row of the table in tools/README.md.
+    std::printf("%s: %zu bytes\n| %s |", out.c_str(), file.size(), number.c_str());
+    for (const auto& words : lists)
+        std::printf(" %zu |", words.size());
+    std::printf(" %zu |\n", selection.size());
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc == 5 && std::string(argv[1]) == "trim-affixes")
+        return trimAffixFile(argv[2], argv[3], argv[4]);
+    if (argc == 7 && std::string(argv[1]) == "split-stems")
+        return splitStems(argv[2], argv[3], argv[4], argv[5], argv[6]);
+    if (argc >= 6 && std::string(argv[1]) == "build") return buildDictionary(argc, argv);
+    return usage();
+}

@@ -1,0 +1,99 @@
+#include "tools/dictionaries/stem_ranking.h"
+
+#include "tools/dictionaries/word_filter.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace griglione {
+namespace {
+
+std::vector<std::string_view> split(std::string_view text, char separator) {
+    std::vector<std::string_view> parts;
+    for (std::size_t start = 0;;) {
+        const std::size_t end = text.find(separator, start);
+        parts.push_back(text.substr(start, end - start));
+        if (end == std::string_view::npos) return parts;
+        start = end + 1;
+    }
+}
+
+std::string_view withoutLineEnd(std::string_view line) {
+    while (!line.empty() && (line.back() == '\r' || line.back() == ' '))
+        line.remove_suffix(1);
+    return line;
+}
+
+} // namespace
+
+std::map<std::string, long> latinLemmaCounts(std::string_view lemmesFile) {
+    std::map<std::string, long> counts;
+    const auto add = [&counts](std::string_view utf8, std::string_view ending, long count) {
+        // Homographs carry a number: "abdico2".
+        while (!utf8.empty() && utf8.back() >= '0' && utf8.back() <= '9')
+            utf8.remove_suffix(1);
+        if (utf8.empty()) return;
+        const auto form = foldedCapitals(utf8);
+        if (!form) return;
+        long& kept = counts[*form + std::string(ending)];
+        kept = std::max(kept, count);
+    };
+    for (std::string_view line : split(lemmesFile, '\n')) {
+        line = withoutLineEnd(line);
+        if (line.empty() || line[0] == '!') continue;
+        const auto fields = split(line, '|');
+        if (fields.size() < 6) continue;
+        long count = 0;
+        const std::string_view last = fields.back();
+        std::from_chars(last.data(), last.data() + last.size(), count);
+
+        const auto head = split(fields[0], '=');
+        add(head[0], "", count);
+        if (head.size() > 1)
+            for (std::string_view variant : split(head[1], ','))
+                add(variant, "", count);
+        for (const std::size_t radical : {std::size_t{2}, std::size_t{3}})
+            for (std::string_view stem : split(fields[radical], ','))
+                for (const char* ending : {"I", "UM", "IS"})
+                    add(stem, ending, count);
+    }
+    return counts;
+}
+
+std::map<std::string, long> listedWordCounts(std::string_view wordList) {
+    std::map<std::string, long> counts;
+    for (const std::string_view line : split(wordList, '\n'))
+        if (const auto word = foldedCapitals(withoutLineEnd(line)); word && !word->empty())
+            counts[*word] = 1;
+    return counts;
+}
+
+std::vector<std::string> splitStemsByCount(std::string_view dic,
+                                           const std::map<std::string, long>& counts,
+                                           const std::vector<long>& thresholds) {
+    std::vector<std::vector<std::string_view>> groups(thresholds.size() + 1);
+    const auto lines = split(dic, '\n');
+    for (std::size_t i = 1; i < lines.size(); ++i) {
+        const std::string_view line = withoutLineEnd(lines[i]);
+        const auto word = foldedCapitals(line.substr(0, line.find_first_of("/\t ")));
+        if (!word || word->empty()) continue;
+        const auto found = counts.find(*word);
+        const long count = found == counts.end() ? 0 : found->second;
+        std::size_t group = 0;
+        while (group < thresholds.size() && count < thresholds[group])
+            ++group;
+        groups[group].push_back(line);
+    }
+    std::vector<std::string> files;
+    for (const auto& group : groups) {
+        std::string file = std::to_string(group.size()) + '\n';
+        for (const std::string_view line : group) {
+            file += line;
+            file += '\n';
+        }
+        files.push_back(std::move(file));
+    }
+    return files;
+}
+
+} // namespace griglione
