@@ -1,0 +1,96 @@
+#!/usr/bin/env bash
+# Remakes data/SLESSICO.1 (Italian), SLESSICO.2 (English), SLESSICO.3 (Latin) and REGPAROL.TXT
+# from their sources: installs the word-list packages, expands the Hunspell dictionaries into
+# plain word lists in a temporary folder and writes each file with make_dictionary, which uses
+# the game's own dictionary writer. See tools/README.md for the sources and the choices.
+#
+# Usage: tools/dictionaries/make_dictionaries.sh [BUILD_DIR]   (default: build-dict)
+set -euo pipefail
+
+root=$(cd "$(dirname "$0")/../.." && pwd)
+build=${1:-$root/build-dict}
+data=$root/data
+here=$root/tools/dictionaries
+
+# The Latin dictionary comes from the npm registry, pinned so that a remake gives the same file.
+latin_package=dictionary-la@1.0.3
+# Lemma counts that split the Latin stems into tiers (Collatinus's corpus counts).
+latin_counts=1000,300,100,30,10,3,1
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+# Word lists and tools come from Debian packages; a tool already on the path (npm from
+# Node's own packages, say) is used as it is.
+missing=()
+for p in witalian hunspell-it wamerican-large wbritish-large collatinus libgtest-dev; do
+    dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" ||
+        missing+=("$p")
+done
+for tool in unmunch:hunspell-tools npm:npm cmake:cmake ninja:ninja-build g++:g++ iconv:libc-bin; do
+    command -v "${tool%%:*}" >/dev/null || missing+=("${tool#*:}")
+done
+if [ ${#missing[@]} -gt 0 ]; then
+    as_root apt-get update
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y "${missing[@]}"
+fi
+
+version() { dpkg-query -W -f='${Version}' "$1"; }
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+if [ ! -f "$build/CMakeCache.txt" ]; then
+    cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+        -DGRIGLIONE_WITH_UI=OFF
+fi
+cmake --build "$build" --target make_dictionary
+make_dictionary=$build/tools/dictionaries/make_dictionary
+
+# The words of a Hunspell .dic as they stand, flags cut off (the first line is a count).
+stems() { tail -n +2 "$1" | sed 's/[/\t ].*//'; }
+
+# The forms of a Hunspell dictionary, expanded with an affix file trimmed for the game.
+forms() { unmunch "$1" "$2" 2>/dev/null; }
+
+echo "== Italian"
+"$make_dictionary" trim-affixes italian /usr/share/hunspell/it_IT.aff "$work/it.aff"
+stems /usr/share/hunspell/it_IT.dic >"$work/it-stems.txt"
+# witalian first, then the forms of the stems it lists (all of mangiare, say), then the other
+# stems as they stand, then their forms.
+"$make_dictionary" split-stems list /usr/share/dict/italian /usr/share/hunspell/it_IT.dic \
+    "$work/it-" 1
+forms "$work/it-1.dic" "$work/it.aff" >"$work/it-forms-common.txt"
+forms "$work/it-2.dic" "$work/it.aff" >"$work/it-forms-other.txt"
+"$make_dictionary" build 1 \
+    "Il Griglione - Dizionario Italiano: {count} parole da 3 a 10 lettere (fonti: witalian $(version witalian) GPL-3+, hunspell-it $(version hunspell-it) GPL-3). Generato da tools/dictionaries." \
+    "$data/SLESSICO.1" /usr/share/dict/italian "$work/it-forms-common.txt" \
+    "$work/it-stems.txt" "$work/it-forms-other.txt"
+
+echo "== English"
+"$make_dictionary" build 2 \
+    "Il Griglione - Dizionario Inglese: {count} parole da 3 a 10 lettere (fonte: SCOWL $(version wamerican-large), wamerican-large e wbritish-large, licenza libera SCOWL). Generato da tools/dictionaries." \
+    "$data/SLESSICO.2" /usr/share/dict/american-english-large,/usr/share/dict/british-english-large
+
+echo "== Latin"
+(cd "$work" && npm pack --silent "$latin_package" >/dev/null && tar xzf dictionary-la-*.tgz)
+"$make_dictionary" trim-affixes latin "$work/package/index.aff" "$work/la.aff"
+# The stems in groups by the corpus count of their lemma, most frequent first: each group's
+# forms make one tier, so common words keep all their forms when a length is full.
+"$make_dictionary" split-stems lemmes /usr/share/collatinus/data/lemmes.la "$work/package/index.dic" \
+    "$work/la-" "$latin_counts"
+latin_tiers=()
+for dic in $(ls "$work"/la-*.dic | sort -V); do
+    forms "$dic" "$work/la.aff" >"${dic%.dic}.txt"
+    latin_tiers+=("${dic%.dic}.txt")
+done
+"$make_dictionary" build 3 \
+    "Il Griglione - Dizionario Latino: {count} parole da 3 a 10 lettere (fonti: ${latin_package/@/ } GPL-2+, ordine da Collatinus $(version collatinus) GPL). Generato da tools/dictionaries." \
+    "$data/SLESSICO.3" "${latin_tiers[@]}"
+
+echo "== Word rules"
+# Windows-1252 with CR LF after every line, as the game reads its text files.
+iconv -f UTF-8 -t WINDOWS-1252 "$here/regparol.txt.in" | sed 's/$/\r/' >"$work/REGPAROL.TXT"
+mv "$work/REGPAROL.TXT" "$data/REGPAROL.TXT"
+echo "$data/REGPAROL.TXT: $(wc -l <"$data/REGPAROL.TXT") lines"
