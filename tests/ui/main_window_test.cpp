@@ -242,6 +242,19 @@ private slots:
         QVERIFY(folder->read("ZARMOLO.INI").find("Dizionario= 2 \r\n") != std::string::npos);
     }
 
+    void aSettingsFileThatCannotBeWrittenIsReportedAndTheGameGoesOn() {
+        open();
+        std::filesystem::create_directory(folder->path() / "ZARMOLO.INI"); // blocks the rename
+        action("MenuMedio")->trigger();
+        QCOMPARE(alerts.shown.size(), std::size_t(1));
+        QCOMPARE(alerts.shown[0],
+                 std::string("Errore 001: impossibile riscivere il file di inizializzazione "
+                             "ZARMOLO.INI"));
+        QCOMPARE(child<QTimer>("Timer2")->interval(), 300);
+        QVERIFY(action("MenuMedio")->isChecked());
+        QVERIFY(std::filesystem::is_directory(folder->path() / "ZARMOLO.INI"));
+    }
+
     void theNameIsUpperCasedAndSavedWhenTheBoxLosesTheFocus() {
         open();
         QApplication::setActiveWindow(window.get());
