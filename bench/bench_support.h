@@ -1,9 +1,9 @@
-// What the timing harnesses share: the yield they pass to the lookups, the dictionary they time
-// (the shipped one, or a synthetic one of similar size while it is missing), medians and budgets.
+// What the timing harnesses share: the yield they pass to the lookups, the shipped dictionary
+// they time, medians and budgets.
 #pragma once
 
 #include "core/ports.h"
-#include "dictionary/dictionary_format.h"
+#include "dictionary/dictionary.h"
 
 #ifdef GRIGLIONE_BENCH_WITH_QT
 #include "platform/event_yield.h"
@@ -11,18 +11,11 @@
 #include <QCoreApplication>
 #endif
 
-#include <unistd.h>
-
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <cstdio>
-#include <filesystem>
-#include <fstream>
 #include <functional>
 #include <memory>
-#include <random>
-#include <set>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -67,58 +60,20 @@ struct BenchAlerts : Alerts {
     void fatale(const std::string& testo) override { throw std::runtime_error(testo); }
 };
 
-// The folder holding SLESSICO.1: the shipped data folder, or a temporary one with a synthetic
-// dictionary of about the shipped one's size, removed again at the end.
-class DictionaryFolder {
-public:
-    explicit DictionaryFolder(const std::filesystem::path& data) {
-        if (std::filesystem::exists(data / dictionaryFileName(1))) {
-            m_path = data;
-            std::printf("dictionary: %s\n", (data / dictionaryFileName(1)).c_str());
-            return;
-        }
-        m_path = std::filesystem::temp_directory_path() /
-                 ("griglione-bench-" + std::to_string(::getpid()));
-        m_temporary = true;
-        std::filesystem::create_directories(m_path);
-        std::ofstream(m_path / dictionaryFileName(1), std::ios::binary)
-            << buildDictionaryFile("synthetic", syntheticWords());
-        std::printf("dictionary: %s not found, using a synthetic one of the same shape\n",
-                    (data / dictionaryFileName(1)).c_str());
-    }
-    ~DictionaryFolder() {
-        std::error_code ignored;
-        if (m_temporary) std::filesystem::remove_all(m_path, ignored);
-    }
-    DictionaryFolder(const DictionaryFolder&) = delete;
-    DictionaryFolder& operator=(const DictionaryFolder&) = delete;
-
-    const std::filesystem::path& path() const { return m_path; }
-
-private:
-    // Random words in the board's letter mix; the nine-letter block is the largest, 25,000 words.
-    static WordLists syntheticWords() {
-        const std::array<int, 8> counts = {900, 4000, 9000, 16000, 21000, 24000, 25000, 20000};
-        const std::string letters = "AAAEEIIOOUBBBCCCDDDFFGGHLLLMMMNNNPPQRRRSSSTTVVZ";
-        std::mt19937 generator(20240611);
-        std::uniform_int_distribution<std::size_t> pick(0, letters.size() - 1);
-        WordLists lists;
-        for (std::size_t i = 0; i < counts.size(); ++i) {
-            const std::size_t length = i + kMinWordLength;
-            std::set<std::string> words;
-            while (words.size() < static_cast<std::size_t>(counts[i])) {
-                std::string word(length, ' ');
-                for (char& c : word)
-                    c = letters[pick(generator)];
-                words.insert(word);
-            }
-            lists[i].assign(words.begin(), words.end());
-        }
-        return lists;
+// The shipped Italian dictionary, its index loaded, its lookups yielding to the event loop.
+struct ShippedDictionary {
+    ShippedDictionary(int& argc, char** argv)
+        : loop(argc, argv),
+          dictionary(state, files, alerts, loop.yield(), argc > 1 ? argv[1] : "data") {
+        std::printf("%s\n", EventLoop::description());
+        dictionary.prendidiz();
     }
 
-    std::filesystem::path m_path;
-    bool m_temporary = false;
+    EventLoop loop;
+    GameState state;
+    OpenFileTable files;
+    BenchAlerts alerts;
+    Dictionary dictionary;
 };
 
 inline double milliseconds(std::chrono::steady_clock::duration d) {

@@ -29,22 +29,16 @@ struct NoView : GameView {
 } // namespace
 
 int main(int argc, char** argv) try {
-    bench::EventLoop loop(argc, argv);
-    const bench::DictionaryFolder folder(argc > 1 ? argv[1] : "data");
-    std::printf("%s\n", bench::EventLoop::description());
-
-    GameState state;
-    OpenFileTable files;
-    bench::BenchAlerts alerts;
-    Dictionary dictionary(state, files, alerts, loop.yield(), folder.path());
-    dictionary.prendidiz();
+    bench::ShippedDictionary shipped(argc, argv);
+    GameState& state = shipped.state;
     MixingRandom random;
     WallClock clock;
     NoView view;
     Dealer dealer(random, clock);
     OpponentWalk walk(
-        state, random, clock, [&](const std::string& w) { return dictionary.cercaParola(w); },
-        loop.yield(), view);
+        state, random, clock,
+        [&](const std::string& w) { return shipped.dictionary.cercaParola(w); },
+        shipped.loop.yield(), view);
 
     std::vector<double> runs;
     std::size_t found = 0;

@@ -9,15 +9,8 @@
 using namespace griglione;
 
 int main(int argc, char** argv) try {
-    bench::EventLoop loop(argc, argv);
-    const bench::DictionaryFolder folder(argc > 1 ? argv[1] : "data");
-    std::printf("%s\n", bench::EventLoop::description());
-
-    GameState state;
-    OpenFileTable files;
-    bench::BenchAlerts alerts;
-    Dictionary dictionary(state, files, alerts, loop.yield(), folder.path());
-    dictionary.prendidiz();
+    bench::ShippedDictionary shipped(argc, argv);
+    Dictionary& dictionary = shipped.dictionary;
 
     int length = kMinWordLength;
     for (int l = kMinWordLength; l <= kMaxWordLength; ++l)
