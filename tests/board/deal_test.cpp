@@ -2,7 +2,7 @@
 #include "board/board_game.h"
 #include "board/board_layout.h"
 #include "core/mixing_random.h"
-#include "tests/support/fakes.h"
+#include "tests/support/board_parts.h"
 
 #include <gtest/gtest.h>
 
@@ -13,16 +13,7 @@ namespace {
 
 using namespace testing;
 
-struct DealTest : ::testing::Test {
-    GameState state;
-    MixingRandom random{12345};
-    FixedClock clock; // every cell re-seeds with the same reading
-    Dealer dealer{random, clock};
-    FakeSounds sounds;
-    FakeMessages messages;
-    FakeView view;
-    BoardGame board{state, dealer, sounds, messages, view};
-};
+struct DealTest : ::testing::Test, BoardParts<MixingRandom> {};
 
 TEST_F(DealTest, VowelsOnEvenCellsConsonantsOnOddOnesForEveryLanguage) {
     for (int language : {1, 2, 3}) {

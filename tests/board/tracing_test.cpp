@@ -2,7 +2,7 @@
 // turning a die, refused presses, and the clear.
 #include "board/board_game.h"
 #include "board/board_layout.h"
-#include "tests/support/fakes.h"
+#include "tests/support/board_parts.h"
 
 #include <gtest/gtest.h>
 
@@ -53,19 +53,11 @@ TEST(PathConnections, EachStepMeetsAtTheCommonEdgeOrCorner) {
     EXPECT_FALSE(connection(0));
 }
 
-struct TracingTest : ::testing::Test {
+struct TracingTest : ::testing::Test, BoardParts<> {
     TracingTest() {
         for (int n = 0; n < kCells; ++n)
             state.immagineCella[n] = dieName(static_cast<char>('A' + n), 1);
     }
-    GameState state;
-    ScriptedRandom random;
-    FixedClock clock;
-    Dealer dealer{random, clock};
-    FakeSounds sounds;
-    FakeMessages messages;
-    FakeView view;
-    BoardGame board{state, dealer, sounds, messages, view};
 };
 
 TEST_F(TracingTest, NoMatchRunningStartsOneAndSelectsNothing) {

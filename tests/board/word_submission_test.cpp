@@ -2,7 +2,7 @@
 // three answers, the busy guard and the file closing that makes an opponent lookup give up.
 #include "board/board_layout.h"
 #include "board/word_submission.h"
-#include "tests/support/fakes.h"
+#include "tests/support/board_parts.h"
 
 #include <gtest/gtest.h>
 
@@ -22,7 +22,7 @@ struct FakePrompt : UnknownWordPrompt {
     }
 };
 
-struct SubmissionTest : ::testing::Test {
+struct SubmissionTest : ::testing::Test, BoardParts<> {
     SubmissionTest() {
         WordLists words;
         words[0] = {"ERA", "ORA"};
@@ -36,10 +36,9 @@ struct SubmissionTest : ::testing::Test {
         board.azzeraParola();
         state.parolaComposta = word;
     }
-    std::vector<std::string> sounds() const { return soundLog.played; }
+    std::vector<std::string> played() const { return sounds.played; }
 
     TempFolder folder;
-    GameState state;
     OpenFileTable files;
     FakeAlerts alerts;
     std::function<void()> yieldAction;
@@ -48,21 +47,14 @@ struct SubmissionTest : ::testing::Test {
                               if (yieldAction) yieldAction();
                           },
                           folder.path()};
-    ScriptedRandom random;
-    FixedClock clock;
-    Dealer dealer{random, clock};
-    FakeSounds soundLog;
-    FakeMessages messages;
-    FakeView view;
-    BoardGame board{state, dealer, soundLog, messages, view};
     FakePrompt prompt;
-    WordSubmission submission{state, board, dictionary, files, soundLog, messages, view, prompt};
+    WordSubmission submission{state, board, dictionary, files, sounds, messages, view, prompt};
 };
 
 TEST_F(SubmissionTest, AcceptedWordScoresAndJoinsThePlayersList) {
     trace("CASA");
     submission.inviaParola();
-    EXPECT_EQ(sounds(), (std::vector<std::string>{"vinci.wav"}));
+    EXPECT_EQ(played(), (std::vector<std::string>{"vinci.wav"}));
     ASSERT_EQ(messages.shown.size(), 1u);
     EXPECT_EQ(messages.shown[0], (Messaggio{"BENE!", "Complimenti, parola accettata!",
                                             "Complimenti la parola è presente nel dizionario, "
@@ -98,11 +90,11 @@ TEST_F(SubmissionTest, LengthMessagesKeepTheTracedWord) {
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.word);
-        soundLog.played.clear();
+        sounds.played.clear();
         messages.shown.clear();
         trace(c.word);
         submission.inviaParola();
-        EXPECT_EQ(sounds(), std::vector<std::string>{c.sound});
+        EXPECT_EQ(played(), std::vector<std::string>{c.sound});
         ASSERT_EQ(messages.shown.size(), 1u);
         EXPECT_EQ(messages.shown[0], (Messaggio{"OOPS!", c.heading, c.text}));
         EXPECT_EQ(state.parolaComposta, c.word);
@@ -115,7 +107,7 @@ TEST_F(SubmissionTest, AWordAlreadyFoundByEitherSideIsClearedWithoutPoints) {
     state.paroleCPU = {"mare"};
     trace("CASA");
     submission.inviaParola();
-    EXPECT_EQ(sounds(), (std::vector<std::string>{"ROCHAN3.WAV", "COLLAPSE.WAV"}));
+    EXPECT_EQ(played(), (std::vector<std::string>{"ROCHAN3.WAV", "COLLAPSE.WAV"}));
     EXPECT_EQ(messages.shown.back(),
               (Messaggio{"OOPS!", "Parola già inserita da te!",
                          "Hai già precedentemente inserito la parola: CASA mi dispiace, "
@@ -151,11 +143,11 @@ TEST_F(SubmissionTest, TheConfirmationsThreeAnswers) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.answer);
         prompt.answer = c.answer;
-        soundLog.played.clear();
+        sounds.played.clear();
         trace(c.word);
         submission.inviaParola();
         EXPECT_EQ(prompt.asked.back(), c.word);
-        EXPECT_EQ(sounds().front(), "perdi.wav");
+        EXPECT_EQ(played().front(), "perdi.wav");
         EXPECT_EQ(folder.read("ZarmPriv.1"), c.vocabulary);
         EXPECT_EQ(state.puntiGiocatore, c.points);
         EXPECT_EQ(state.paroleGiocatore.size(), c.listed);
