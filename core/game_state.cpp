@@ -8,9 +8,4 @@ GameState::GameState()
     immagineCella.fill("zarMolo.gif");
 }
 
-const std::string& alfabetoDi(const GameState& state) {
-    const int index = state.numDizionario - 1;
-    return (index >= 0 && index < 3) ? state.alfabeto[index] : state.alfabeto[0];
-}
-
 } // namespace griglione

@@ -79,7 +79,4 @@ constexpr std::int32_t punteggioParola(std::size_t length) {
     return static_cast<std::int32_t>(length * length * 20);
 }
 
-// The language's letters: index numDizionario − 1.
-const std::string& alfabetoDi(const GameState& state);
-
 } // namespace griglione

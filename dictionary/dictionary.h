@@ -35,7 +35,6 @@ public:
     std::string cercaParola(const std::string& parola);
 
     const DictionaryIndex& index() const { return m_index; }
-    void setIndex(const DictionaryIndex& index) { m_index = index; }
 
     std::filesystem::path dictionaryPath() const;
     std::filesystem::path personalVocabularyPath() const;
