@@ -34,6 +34,14 @@ public:
     virtual void fatale(const std::string& testo) = 0;
 };
 
+// Hands a document, a web address or a "mailto:" address to the system to open. Nothing waits
+// for it and nothing reports a failure.
+class Outside {
+public:
+    virtual ~Outside() = default;
+    virtual void apri(const std::string& target) = 0;
+};
+
 // What changed in the shared state, so that the window redraws just that.
 enum class Aspect { Board, Word, Path, PlayerWords, CpuWords, Scores, TimeBar, CpuAttempt };
 

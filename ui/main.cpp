@@ -2,6 +2,7 @@
 #include "core/mixing_random.h"
 #include "platform/event_yield.h"
 #include "platform/fonts.h"
+#include "platform/outside_opener.h"
 #include "platform/sound_player.h"
 #include "platform/system_clock.h"
 #include "ui/alert_boxes.h"
@@ -22,10 +23,11 @@ int main(int argc, char* argv[]) {
 
     griglione::SoundPlayer player;
     griglione::AlertBoxes alerts;
+    griglione::OutsideOpener outside;
     griglione::SystemClock clock;
     griglione::MixingRandom random(static_cast<std::uint64_t>(QDateTime::currentMSecsSinceEpoch()));
-    griglione::MainWindow window(
-        {player, alerts, clock, random, griglione::yieldToWindow, ".", [] { std::exit(0); }});
+    griglione::MainWindow window({player, alerts, outside, clock, random, griglione::yieldToWindow,
+                                  ".", [] { std::exit(0); }});
     alerts.setParent(&window);
     window.startUp();
     window.show();

@@ -43,6 +43,7 @@ class TimeBar;
 struct Services {
     Sounds& player;
     Alerts& alerts;
+    Outside& outside;
     const Clock& clock;
     Random& random;
     std::function<void()> yield;

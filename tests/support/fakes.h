@@ -36,6 +36,11 @@ struct FakeSounds : Sounds {
     void beep() override { played.emplace_back("beep"); }
 };
 
+struct FakeOutside : Outside {
+    std::vector<std::string> opened;
+    void apri(const std::string& target) override { opened.push_back(target); }
+};
+
 struct FakeMessages : Messages {
     std::vector<Messaggio> shown;
     std::vector<bool> modal;

@@ -54,6 +54,7 @@ class MainWindowTest : public QObject {
     std::unique_ptr<TempFolder> folder;
     FakeSounds sounds;
     FakeAlerts alerts;
+    FakeOutside outside;
     FixedClock clock;
     MixingRandom random{99};
     int terminated = 0;
@@ -67,7 +68,7 @@ class MainWindowTest : public QObject {
         folder->write("SLESSICO.2", buildDictionaryFile("test", words));
     }
     void open() {
-        window = std::make_unique<MainWindow>(Services{sounds, alerts, clock, random,
+        window = std::make_unique<MainWindow>(Services{sounds, alerts, outside, clock, random,
                                                        [] { QCoreApplication::processEvents(); },
                                                        folder->path(), [this] { ++terminated; }});
         window->startUp();
