@@ -49,4 +49,18 @@ std::string rightAligned(std::string_view text, std::size_t width) {
     return padded.substr(padded.size() - width);
 }
 
+std::string groupedNumber(std::int64_t n, int minDigits) {
+    const bool negative = n < 0;
+    std::string digits = n == 0 ? "" : std::to_string(n);
+    if (negative) digits.erase(0, 1);
+    if (static_cast<int>(digits.size()) < minDigits)
+        digits.insert(0, static_cast<std::size_t>(minDigits) - digits.size(), '0');
+    std::string grouped;
+    for (std::size_t i = 0; i < digits.size(); ++i) {
+        if (i > 0 && (digits.size() - i) % 3 == 0) grouped += '.';
+        grouped += digits[i];
+    }
+    return negative ? "-" + grouped : grouped;
+}
+
 } // namespace griglione

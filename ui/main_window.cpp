@@ -1,6 +1,7 @@
 #include "ui/main_window.h"
 
 #include "board/board_layout.h"
+#include "core/addresses.h"
 #include "core/atomic_file.h"
 #include "core/file_names.h"
 #include "core/levels.h"
@@ -205,7 +206,7 @@ void MainWindow::buildControls() {
     label(area, "Label7", "Punti", at(6022, 4320, 555, 225), Qt::white, kRed);
     m_cpuScore = label(area, "Label11", "0", at(6750, 4320, 555, 225), Qt::white, kDarkGrey);
 
-    auto* link = label(area, "Label12", "griglione.example.org",
+    auto* link = label(area, "Label12", kSitoWebTesto,
                        twipsRect(5295 + d, 4590, 1995, 255), QColor(255, 255, 128), kDarkGreen);
     link->setToolTip("Visita il sito dell'autore");
     link->setCursor(Qt::PointingHandCursor);
