@@ -1,0 +1,36 @@
+// The address that submits a top score to the maker's record page, and the notes' cleaning.
+#pragma once
+
+#include "core/random.h"
+
+#include <cstdint>
+#include <string>
+
+namespace griglione {
+
+// Replaces every blank, "%", "$", "&", "!" and "=" of `t` with "_", in place, and returns it.
+std::string cmbS(std::string& t);
+
+// The date and time of the submission, as the system's calendar gives them.
+struct DataOra {
+    int giorno = 1;
+    int mese = 1;
+    int anno = 2000;
+    int ore = 0;
+    int minuti = 0;
+};
+
+struct RecordDaInviare {
+    std::string nome;
+    std::int32_t punti = 0;
+    std::int32_t tempoPartita = 0;
+    std::string note;
+    std::string email;
+    std::int32_t numDizionario = 1;
+};
+
+// kPaginaRecord followed by the query parts, unencoded, in the page's own order.
+std::string indirizzoRecord(RecordDaInviare record, const DataOra& adesso, Random& random,
+                            const Clock& clock);
+
+} // namespace griglione

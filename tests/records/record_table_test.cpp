@@ -1,0 +1,127 @@
+// The record file read back through its traps, the ordering of a new score, the exact bytes
+// written, the list lines and when an opening writes at all.
+#include "records/record_opening.h"
+#include "records/record_table.h"
+#include "tests/support/fakes.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace griglione {
+namespace {
+
+RecordTable tableOf(const std::string& bytes) {
+    std::istringstream in(bytes);
+    return RecordTable::read(in);
+}
+
+std::string repeat(const std::string& line, int times) {
+    std::string all;
+    for (int i = 0; i < times; ++i)
+        all += line;
+    return all;
+}
+
+TEST(RecordTable, ReadsEachLineTrapsIncluded) {
+    struct Case {
+        std::string bytes;
+        int slot;
+        RecordEntry expected;
+    };
+    const Case cases[] = {
+        {"BRIVO, 1240 \r\n", 1, {"BRIVO", 1240}},
+        {"   ANNA MARIA ,900\r\n", 1, {"ANNA MARIA ", 900}},
+        {"ROSSI,MARIO, 1500 \r\n", 1, {"ROSSI", 0}}, // a comma in the name splits it there
+        {",7.5x\r\n", 1, {"", 8}},
+        {"X, 2.5\nY,-3\n", 2, {"Y", -3}},      // bare LF ends a line too
+        {"\r\n   \r\nZ, 5 \r\n", 1, {"Z", 5}}, // blank lines take no place
+        {"SOLO\r\n", 1, {"SOLO", 0}},
+        {"BIG, 99999999999 \r\n", 1, {"BIG", 2147483647}},
+        {"LAST, 3", 1, {"LAST", 3}}, // no line end after the last line
+        {"", 1, {"", 0}},
+        {repeat("A, 1 \r\n", 51) + "B, 2 \r\nC, 3 \r\n", 52, {"B", 2}}, // the 53rd is not read
+        {std::string(100'000, 'N') + ", 4 \r\nM, 6 \r\n", 2, {"M", 6}},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(tableOf(c.bytes).slot(c.slot), c.expected) << c.bytes.substr(0, 40);
+    EXPECT_EQ(tableOf(std::string(100'000, 'N')).slot(1).name.size(), 4096u);
+}
+
+TEST(RecordTable, NewScoreGoesBelowEqualOnesAndFallsOffTheEnd) {
+    struct Case {
+        std::int32_t score;
+        std::optional<int> place;
+    };
+    // Places 1 to 50 hold 5000, 4000, 3000, 2000 and then 2000 - place.
+    std::string file = "A, 5000 \r\nB, 4000 \r\nC, 3000 \r\nD, 2000 \r\n";
+    for (int i = 5; i <= 50; ++i)
+        file += "E" + std::to_string(i) + "," + std::to_string(2000 - i) + "\r\n";
+    const Case cases[] = {{3000, 4}, {6000, 1}, {2500, 4}, {2000, 5}, {1951, 50}, {1950, {}}};
+    for (const Case& c : cases) {
+        RecordTable table = tableOf(file);
+        table.enter("NEW", c.score);
+        EXPECT_EQ(table.placeOf("NEW", c.score), c.place) << c.score;
+        EXPECT_EQ(table.slot(51).name, c.place ? "E50" : "NEW");
+    }
+}
+
+TEST(RecordTable, WritesFiftyLinesAndListsThemCut) {
+    RecordTable table = tableOf("BRIVO, 1240 \r\n");
+    table.enter("PRECIPITEVOLISSIMEVOLMENTE", 123456);
+    EXPECT_EQ(table.fileBytes(),
+              "PRECIPITEVOLISSIMEVOLMENTE, 123456 \r\nBRIVO, 1240 \r\n" + repeat(", 0 \r\n", 48));
+    const auto lines = table.listLines();
+    ASSERT_EQ(lines.size(), 51u);
+    EXPECT_EQ(lines[0], " N. - Giocatore    -  Punti");
+    EXPECT_EQ(lines[1], " 01 - PRECIPITEVOL -  123.456");
+    EXPECT_EQ(lines[2], " 02 - BRIVO        -  01.240");
+    EXPECT_EQ(lines[50], " 50 -              -  00.000");
+}
+
+TEST(RecordOpening, ThresholdsDifferAtMatchEndAndOnLeaving) {
+    const std::tuple<std::int32_t, bool, bool> cases[] = {
+        {999, false, false}, {1000, false, true}, {1001, true, true}};
+    for (const auto& [punti, afterMatch, onLeaving] : cases) {
+        GameState a, b;
+        a.puntiGiocatore = b.puntiGiocatore = punti;
+        EXPECT_EQ(recordDopoPartita(a), afterMatch);
+        EXPECT_EQ(a.inserisciRecord, afterMatch);
+        EXPECT_FALSE(a.uscitaDopoRecord);
+        EXPECT_EQ(recordAllUscita(b), onLeaving);
+        EXPECT_EQ(b.inserisciRecord && b.uscitaDopoRecord, onLeaving);
+    }
+}
+
+TEST(RecordOpening, WritesOnlyWhenEnteringAndNeverOverAnUnreadableFile) {
+    testing::TempFolder folder;
+    const auto file = folder.path() / "zarMolo.HIS";
+    GameState state;
+    state.puntiGiocatore = 900;
+
+    folder.write("zarMolo.HIS", "A, 950 \r\nBRIVO, 900 \r\nC, 800");
+    TabellaRecord shown = riempiTabella(state, "BRIVO", file);
+    EXPECT_EQ(folder.read("zarMolo.HIS"), "A, 950 \r\nBRIVO, 900 \r\nC, 800");
+    EXPECT_EQ(shown.primo, "A");
+    EXPECT_EQ(shown.selezione, 2);
+    EXPECT_TRUE(shown.invioPossibile);
+
+    state.inserisciRecord = true;
+    shown = riempiTabella(state, "BRIVO", file);
+    EXPECT_FALSE(state.inserisciRecord);
+    EXPECT_EQ(shown.selezione, 3); // the last of two equal entries
+    EXPECT_FALSE(shown.invioPossibile);
+    EXPECT_EQ(folder.read("zarMolo.HIS"),
+              "A, 950 \r\nBRIVO, 900 \r\nBRIVO, 900 \r\nC, 800 \r\n" + repeat(", 0 \r\n", 46));
+
+    std::filesystem::remove(file);
+    std::filesystem::create_directory(file);
+    state.inserisciRecord = true;
+    shown = riempiTabella(state, "ANNA", file);
+    EXPECT_TRUE(std::filesystem::is_directory(file));
+    EXPECT_EQ(shown.selezione, 1);
+    EXPECT_TRUE(shown.invioPossibile);
+}
+
+} // namespace
+} // namespace griglione
