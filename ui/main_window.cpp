@@ -11,6 +11,7 @@
 #include "ui/die_cell.h"
 #include "ui/end_of_match_window.h"
 #include "ui/path_overlay.h"
+#include "ui/records_flow.h"
 #include "ui/time_bar.h"
 #include "ui/twips.h"
 
@@ -125,6 +126,8 @@ MainWindow::MainWindow(Services services)
         [this](const std::string& parola) { return m_dictionary.cercaParola(parola); },
         m_services.yield, *this);
     connect(m_timer2, &QTimer::timeout, this, [this] { m_opponent->tick(); });
+    m_records = std::make_unique<RecordsFlow>(*this, m_state, *m_timer1, *m_timer2, m_messages,
+                                              m_services, [this] { return m_playerName->text(); });
     wireMenu();
 }
 
@@ -226,6 +229,7 @@ void MainWindow::buildControls() {
 void MainWindow::wireMenu() {
     connect(m_menu.nuovo, &QAction::triggered, this, &MainWindow::nuovaPartita);
     connect(m_menu.fine, &QAction::triggered, this, &MainWindow::quit);
+    connect(m_menu.records, &QAction::triggered, this, [this] { m_records->fromMenu(); });
     connect(m_menu.suono, &QAction::triggered, this, &MainWindow::salvaImpostazioni);
     connect(m_menu.paroleAmmesse, &QAction::triggered, this, &MainWindow::showRules);
     for (std::size_t i = 0; i < m_menu.tempi.size(); ++i)
@@ -378,7 +382,7 @@ void MainWindow::endOfMatch() {
     m_endOfMatch->hide();
     m_endOfMatch->showResult(m_playerName->text(), m_playerScore->text().toInt(),
                              m_cpuScore->text().toInt(), levelChecks());
-    if (m_state.puntiGiocatore > 1000) m_state.inserisciRecord = true;
+    m_records->afterMatch();
     m_board.lanciaDadi(true);
     m_board.azzeraParola();
     m_state.secondiTrascorsi = 0;
@@ -439,10 +443,7 @@ void MainWindow::showRules() {
 void MainWindow::quit() {
     m_timer2->stop();
     m_timer1->stop();
-    if (m_state.puntiGiocatore > 999) {
-        m_state.inserisciRecord = true;
-        m_state.uscitaDopoRecord = true;
-    }
+    m_records->beforeQuit();
     QApplication::quit();
 }
 

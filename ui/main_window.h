@@ -37,6 +37,7 @@ namespace griglione {
 class DieCell;
 class EndOfMatchWindow;
 class PathOverlay;
+class RecordsFlow;
 class TimeBar;
 
 // What the window needs from outside: the real ones in the program, fakes in tests.
@@ -117,6 +118,7 @@ private:
     std::unique_ptr<ConfirmPrompt> m_prompt;
     std::unique_ptr<WordSubmission> m_submission;
     std::unique_ptr<OpponentWalk> m_opponent;
+    std::unique_ptr<RecordsFlow> m_records;
     EndOfMatchWindow* m_endOfMatch = nullptr;
     bool m_inClockTick = false;
 
