@@ -107,7 +107,7 @@ void RecordsWindow::buildControls() {
         label(this, "Label6", "Note sul punteggio:", twipsRect(450, 5490, 795, 435), Qt::white);
     notesCaption->setWordWrap(true);
     m_notes = textBox(this, "Text1", "Sono il migliore", twipsRect(1260, 5580, 2520, 285));
-    m_link = label(this, "Label7", "Registra record in Internet", twipsRect(3870, 5580, 2175, 285),
+    m_link = label(this, "Label7", "Registra record in Internet", twipsRect(3870, 5580, 2250, 285),
                    kPaleYellow);
     QFont underlined = m_link->font();
     underlined.setUnderline(true);
@@ -115,6 +115,8 @@ void RecordsWindow::buildControls() {
     m_link->setToolTip("Clicca per registrare questo punteggio nella tabella mondiale su Internet");
     m_link->setCursor(linkCursor());
     m_link->setFocusPolicy(Qt::StrongFocus);
+    // A label draws no focus frame of its own; the keyboard user must see where Enter goes.
+    m_link->setStyleSheet("QLabel:focus { border: 1px dotted palette(window-text); }");
     m_link->installEventFilter(this);
 
     m_submission = {m_notes, m_email, m_link, emailCaption, notesCaption};
