@@ -7,8 +7,8 @@
 namespace griglione {
 
 // Decides where the game works, makes that folder the current directory and sets the order in
-// which file names are resolved. `playerFolder` defaults to the standard per-user data location
-// ("~/.local/share/griglione"). False when the folder cannot be made the current directory.
-bool settleGameFolder(const QString& programFolder, QString playerFolder = {});
+// which file names are resolved. The player's folder is the standard per-user data location
+// ("~/.local/share/griglione"). False when it cannot be made the current directory.
+bool settleGameFolder(const QString& programFolder);
 
 } // namespace griglione
