@@ -1,5 +1,7 @@
 #include "core/atomic_file.h"
 
+#include "core/file_names.h"
+
 #include <fstream>
 #include <iterator>
 #include <system_error>
@@ -14,7 +16,8 @@ std::optional<std::string> readWholeFile(const std::filesystem::path& path) {
     return bytes;
 }
 
-bool writeFileAtomically(const std::filesystem::path& path, std::string_view bytes) {
+bool writeFileAtomically(const std::filesystem::path& target, std::string_view bytes) {
+    const std::filesystem::path path = writableFileName(target);
     std::filesystem::path temporary = path;
     temporary += ".tmp";
     {
@@ -38,7 +41,14 @@ bool writeFileAtomically(const std::filesystem::path& path, std::string_view byt
 }
 
 bool appendToFile(const std::filesystem::path& path, std::string_view bytes) {
-    std::ofstream out(path, std::ios::binary | std::ios::app);
+    const std::filesystem::path target = writableFileName(path);
+    if (target != path) {
+        // The player's copy starts as the shipped file, so appending adds to what was read.
+        std::error_code ignored;
+        std::filesystem::copy_file(path, target, std::filesystem::copy_options::skip_existing,
+                                   ignored);
+    }
+    std::ofstream out(target, std::ios::binary | std::ios::app);
     if (!out) return false;
     out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     return static_cast<bool>(out.flush());

@@ -12,7 +12,8 @@ namespace griglione {
 std::optional<std::string> readWholeFile(const std::filesystem::path& path);
 
 // Writes `bytes` to a temporary file beside `path`, then renames it over `path`.
-// False, with `path` untouched, when any step fails.
+// False, with `path` untouched, when any step fails. Like appending, it writes a file of the
+// read-only data folder into the player's folder instead (see writableFileName).
 bool writeFileAtomically(const std::filesystem::path& path, std::string_view bytes);
 
 // Adds `bytes` at the end of the file, creating it when missing.

@@ -1,6 +1,7 @@
 #include "dictionary/dictionary.h"
 
 #include "core/atomic_file.h"
+#include "core/file_names.h"
 #include "dictionary/personal_vocabulary.h"
 
 #include <fstream>
@@ -13,11 +14,11 @@ Dictionary::Dictionary(const GameState& state, OpenFileTable& files, Alerts& ale
       m_folder(std::move(folder)) {}
 
 std::filesystem::path Dictionary::dictionaryPath() const {
-    return m_folder / dictionaryFileName(m_state.numDizionario);
+    return resolveFileName(m_folder, dictionaryFileName(m_state.numDizionario));
 }
 
 std::filesystem::path Dictionary::personalVocabularyPath() const {
-    return m_folder / personalVocabularyFileName(m_state.numDizionario);
+    return resolveFileName(m_folder, personalVocabularyFileName(m_state.numDizionario));
 }
 
 void Dictionary::prendidiz() {

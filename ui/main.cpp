@@ -2,6 +2,7 @@
 #include "core/mixing_random.h"
 #include "platform/event_yield.h"
 #include "platform/fonts.h"
+#include "platform/game_folder.h"
 #include "platform/outside_opener.h"
 #include "platform/sound_player.h"
 #include "platform/system_clock.h"
@@ -10,14 +11,13 @@
 
 #include <QApplication>
 #include <QDateTime>
-#include <QDir>
 
 #include <cstdlib>
 
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
-    // Every file of the game is found by its bare name in the program's own folder.
-    QDir::setCurrent(QCoreApplication::applicationDirPath());
+    // Every file of the game is found by its bare name in the folder it works in.
+    griglione::settleGameFolder(QCoreApplication::applicationDirPath());
     griglione::registerFonts();
     QApplication::setFont(griglione::tahoma(8.25));
 

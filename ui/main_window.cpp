@@ -278,7 +278,7 @@ void MainWindow::startUp() {
 }
 
 void MainWindow::readSettings() {
-    const auto bytes = readWholeFile(m_services.folder / std::string(kSettingsFileName));
+    const auto bytes = readWholeFile(resolveFileName(m_services.folder, kSettingsFileName));
     if (!bytes) return;
     Settings settings = currentSettings();
     applySettingsFile(*bytes, settings);
@@ -308,7 +308,7 @@ Settings MainWindow::currentSettings() const {
 }
 
 void MainWindow::salvaImpostazioni() {
-    if (!writeFileAtomically(m_services.folder / std::string(kSettingsFileName),
+    if (!writeFileAtomically(resolveFileName(m_services.folder, kSettingsFileName),
                              settingsFileBytes(currentSettings())))
         m_services.alerts.avviso(
             "Errore 001: impossibile riscivere il file di inizializzazione ZARMOLO.INI");
