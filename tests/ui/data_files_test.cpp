@@ -39,6 +39,10 @@ private slots:
     void theLogoLoads() {
         QVERIFY(!QImage(QString::fromStdString((data / "griglione.gif").string())).isNull());
     }
+
+    void theHandPointerLoads() {
+        QVERIFY(!QImage(QString::fromStdString((data / "manina.gif").string())).isNull());
+    }
 };
 
 QTEST_MAIN(DataFilesTest)
