@@ -10,6 +10,7 @@
 #include "ui/colours.h"
 #include "ui/die_cell.h"
 #include "ui/end_of_match_window.h"
+#include "ui/help_links.h"
 #include "ui/path_overlay.h"
 #include "ui/time_bar.h"
 #include "ui/twips.h"
@@ -126,6 +127,8 @@ MainWindow::MainWindow(Services services)
         m_services.yield, *this);
     connect(m_timer2, &QTimer::timeout, this, [this] { m_opponent->tick(); });
     wireMenu();
+    new HelpLinks(this, m_menu, m_services.outside, m_services.alerts, m_messages,
+                  m_services.folder);
 }
 
 MainWindow::~MainWindow() = default;
@@ -209,7 +212,6 @@ void MainWindow::buildControls() {
     auto* link = label(area, "Label12", kSitoWebTesto,
                        twipsRect(5295 + d, 4590, 1995, 255), QColor(255, 255, 128), kDarkGreen);
     link->setToolTip("Visita il sito dell'autore");
-    link->setCursor(Qt::PointingHandCursor);
     m_cpuAttempt = label(area, "Label8", "", at(5340, 4860, 1950, 225), Qt::white, kDarkGreen);
     m_cpuAttempt->hide();
 
