@@ -1,30 +1,30 @@
-// The "&?" menu and the links: the help page, the mail and the web site through the keys and the
-// links of both windows, and the information window opened again by F4.
+// The "&?" menu and the links of both windows: the help page, the mail and the web site, and the
+// information window opened afresh by F4.
 #include "core/addresses.h"
 #include "tests/support/fakes.h"
 #include "ui/main_window.h"
 
 #include <QApplication>
-#include <QLabel>
 #include <QtTest>
 
 using namespace griglione;
 using namespace griglione::testing;
 
-namespace {
-
-QList<QWidget*> informationWindows() {
-    QList<QWidget*> found;
-    for (QWidget* w : QApplication::topLevelWidgets())
-        if (w->objectName() == "Form3") found.append(w);
+static QWidgetList informationWindows() {
+    QWidgetList found = QApplication::topLevelWidgets();
+    found.removeIf([](QWidget* w) { return w->objectName() != "Form3"; });
     return found;
 }
 
-} // namespace
+static QStringList texts(const std::vector<std::string>& strings) {
+    QStringList list;
+    for (const std::string& s : strings)
+        list << QString::fromStdString(s);
+    return list;
+}
 
 class HelpLinksTest : public QObject {
     Q_OBJECT
-
     TempFolder folder;
     FakeSounds sounds;
     FakeAlerts alerts;
@@ -33,10 +33,12 @@ class HelpLinksTest : public QObject {
     ScriptedRandom random;
     std::unique_ptr<MainWindow> window;
 
-    void pressOnMainWindow(int key, Qt::KeyboardModifiers modifiers = {}) {
+    // Keys reach the menu's shortcuts only while the main window is the active one.
+    void press(int keys) {
         window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(window.get()));
-        QTest::keyClick(window.get(), Qt::Key(key), modifiers);
+        const auto combination = QKeyCombination::fromCombined(keys);
+        QTest::keyClick(window.get(), combination.key(), combination.keyboardModifiers());
     }
 
 private slots:
@@ -50,62 +52,54 @@ private slots:
     void cleanup() { window.reset(); }
 
     void keysAndLinksOpenTheirTargets_data() {
-        QTest::addColumn<QString>("helpFile"); // "file", "folder" or nothing beside the game
-        QTest::addColumn<int>("key");          // 0: a click on `control` instead
-        QTest::addColumn<QString>("control");  // "Form3/…" for a control of Form3
-        QTest::addColumn<QString>("opened");
-        QTest::addColumn<QString>("alert");
-        const QString help = QString::fromStdString((folder.path() / "GRIGLIONE.htm").string());
-        const QString missing = "Non trovato file di documentazione/help GRIGLIONE.htm";
-        const QString mail = QString("mailto:") + kEmailAutore;
-        QTest::newRow("help") << "file" << int(Qt::Key_F1) << "" << help << "";
-        QTest::newRow("no help") << "" << int(Qt::Key_F1) << ""
-                                 << "" << missing;
-        QTest::newRow("help is a folder") << "folder" << int(Qt::Key_F1) << ""
-                                          << "" << missing;
-        QTest::newRow("mail") << "" << int(Qt::CTRL | Qt::Key_F8) << "" << mail << "";
-        QTest::newRow("site") << "" << int(Qt::CTRL | Qt::Key_F9) << "" << kSitoWeb << "";
-        QTest::newRow("Label12") << "" << 0 << "Label12" << kSitoWeb << "";
-        QTest::newRow("Form3 Label6") << "" << 0 << "Form3/Label6" << kSitoWeb << "";
-        QTest::newRow("Form3 Label3") << "" << 0 << "Form3/Label3" << mail << "";
-        QTest::newRow("Form3 Picture2") << "" << 0 << "Form3/Picture2" << mail << "";
+        QTest::addColumn<QString>("helpFile"); // what lies beside the game: "file", "folder", ""
+        QTest::addColumn<int>("keys");         // 0: a click on `control` instead
+        QTest::addColumn<QString>("control");  // a control of Form3 when it starts with "Form3/"
+        QTest::addColumn<QStringList>("opened");
+        QTest::addColumn<QStringList>("alerts");
+        const QStringList help{QString::fromStdString((folder.path() / "GRIGLIONE.htm").string())};
+        const QStringList missing{"Non trovato file di documentazione/help GRIGLIONE.htm"};
+        const QStringList mail{QString("mailto:") + kEmailAutore}, site{kSitoWeb}, none;
+        const int f1 = Qt::Key_F1, f8 = Qt::CTRL | Qt::Key_F8, f9 = Qt::CTRL | Qt::Key_F9;
+        QTest::newRow("help") << "file" << f1 << "" << help << none;
+        QTest::newRow("no help") << "" << f1 << "" << none << missing;
+        QTest::newRow("help is a folder") << "folder" << f1 << "" << none << missing;
+        QTest::newRow("mail") << "" << f8 << "" << mail << none;
+        QTest::newRow("site") << "" << f9 << "" << site << none;
+        QTest::newRow("Label12") << "" << 0 << "Label12" << site << none;
+        QTest::newRow("Form3 Label6") << "" << 0 << "Form3/Label6" << site << none;
+        QTest::newRow("Form3 Label3") << "" << 0 << "Form3/Label3" << mail << none;
+        QTest::newRow("Form3 Picture2") << "" << 0 << "Form3/Picture2" << mail << none;
     }
     void keysAndLinksOpenTheirTargets() {
         QFETCH(QString, helpFile);
-        QFETCH(int, key);
+        QFETCH(int, keys);
         QFETCH(QString, control);
         std::filesystem::remove_all(folder.path() / "GRIGLIONE.htm");
-        if (helpFile == "file") folder.write("GRIGLIONE.htm", "<!doctype html>");
+        if (helpFile == "file") folder.write("GRIGLIONE.htm", "<!DOCTYPE html>");
         if (helpFile == "folder")
             std::filesystem::create_directory(folder.path() / "GRIGLIONE.htm");
         QWidget* owner = window.get();
         if (control.startsWith("Form3/")) {
-            pressOnMainWindow(Qt::Key_F4);
-            QCOMPARE(informationWindows().size(), 1);
-            owner = informationWindows().first();
+            press(Qt::Key_F4);
+            owner = informationWindows().value(0);
+            QVERIFY(owner);
         }
-        if (key)
-            pressOnMainWindow(key & ~Qt::KeyboardModifierMask,
-                              Qt::KeyboardModifiers(key & Qt::KeyboardModifierMask));
+        if (keys)
+            press(keys);
         else
             QTest::mouseClick(owner->findChild<QWidget*>(control.section('/', -1)), Qt::LeftButton);
-        QFETCH(QString, opened);
-        QFETCH(QString, alert);
-        QCOMPARE(outside.opened.size(), opened.isEmpty() ? 0u : 1u);
-        if (!opened.isEmpty()) QCOMPARE(QString::fromStdString(outside.opened[0]), opened);
-        QCOMPARE(alerts.shown.size(), alert.isEmpty() ? 0u : 1u);
-        if (!alert.isEmpty()) QCOMPARE(QString::fromStdString(alerts.shown[0]), alert);
+        QTEST(texts(outside.opened), "opened");
+        QTEST(texts(alerts.shown), "alerts");
     }
 
     void informationWindowIsRecreatedAndClosesTheMessage() {
-        pressOnMainWindow(Qt::Key_F4);
+        press(Qt::Key_F4);
         window->messages().mostraMessaggio({"INFO!", "Prova", "testo"}, false);
-        pressOnMainWindow(Qt::Key_F4);
+        press(Qt::Key_F4);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCOMPARE(informationWindows().size(), 1);
-        QWidget* info = informationWindows().first();
-        QCOMPARE(info->findChild<QLabel*>("Label2")->text(), QString("Versione 3.1.0"));
-        QVERIFY(QTest::qWaitForWindowActive(info));
+        QVERIFY(QTest::qWaitForWindowActive(informationWindows().first()));
         QTRY_VERIFY(!window->messages().window());
     }
 };
