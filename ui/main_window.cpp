@@ -10,6 +10,7 @@
 #include "ui/colours.h"
 #include "ui/die_cell.h"
 #include "ui/end_of_match_window.h"
+#include "ui/help_links.h"
 #include "ui/path_overlay.h"
 #include "ui/records_flow.h"
 #include "ui/time_bar.h"
@@ -129,6 +130,8 @@ MainWindow::MainWindow(Services services)
     m_records = std::make_unique<RecordsFlow>(*this, m_state, *m_timer1, *m_timer2, m_messages,
                                               m_services, [this] { return m_playerName->text(); });
     wireMenu();
+    new HelpLinks(this, m_menu, m_services.outside, m_services.alerts, m_messages,
+                  m_services.folder);
 }
 
 MainWindow::~MainWindow() = default;
@@ -212,7 +215,6 @@ void MainWindow::buildControls() {
     auto* link = label(area, "Label12", kSitoWebTesto,
                        twipsRect(5295 + d, 4590, 1995, 255), QColor(255, 255, 128), kDarkGreen);
     link->setToolTip("Visita il sito dell'autore");
-    link->setCursor(Qt::PointingHandCursor);
     m_cpuAttempt = label(area, "Label8", "", at(5340, 4860, 1950, 225), Qt::white, kDarkGreen);
     m_cpuAttempt->hide();
 

@@ -4,7 +4,9 @@
 #include "board/dealer.h"
 #include "core/file_names.h"
 
+#include <QFile>
 #include <QImage>
+#include <QRegularExpression>
 #include <QtTest>
 
 using namespace griglione;
@@ -38,6 +40,23 @@ private slots:
 
     void theLogoLoads() {
         QVERIFY(!QImage(QString::fromStdString((data / "griglione.gif").string())).isNull());
+    }
+
+    void theHandPointerLoads() {
+        QVERIFY(!QImage(QString::fromStdString((data / "manina.gif").string())).isNull());
+    }
+
+    void theHelpPageAndEveryPictureItShowsAreThere() {
+        QFile page(QString::fromStdString((data / "GRIGLIONE.htm").string()));
+        QVERIFY(page.open(QIODevice::ReadOnly));
+        const QString html = QString::fromUtf8(page.readAll());
+        auto pictures = QRegularExpression("<img[^>]*\\ssrc=\"([^\"]+)\"").globalMatch(html);
+        QVERIFY(pictures.hasNext());
+        while (pictures.hasNext()) {
+            const QString name = pictures.next().captured(1);
+            QVERIFY2(!QImage(QString::fromStdString((data / name.toStdString()).string())).isNull(),
+                     qPrintable(name));
+        }
     }
 };
 

@@ -74,6 +74,7 @@ picture zarMolo.gif 64 64 "$GREEN"
 picture griglione.gif 160 84 "$GREEN"
 picture okbutton.gif 32 32
 picture azzera.gif 32 32
+picture manina.gif 32 32
 
 # Every die differs from every other: no face or letter was left out or drawn twice.
 dupes=$(cd "$DIR" && md5sum zarMmg??.gif zarMolo.gif 2>/dev/null | sort | uniq -w32 -D |

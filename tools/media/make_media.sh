@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Remakes the game's pictures (dice, logo, buttons) and sounds in data/, byte for byte the same
-# on every run. Usage: tools/media/make_media.sh [output folder, default data/ of this repository]
+# Remakes the game's pictures (dice, logo, buttons, link pointer) and sounds in data/, byte for
+# byte the same on every run.
+# Usage: tools/media/make_media.sh [output folder, default data/ of this repository]
 set -euo pipefail
 export LC_ALL=C
 
@@ -199,6 +200,25 @@ gif -size 32x32 xc:"$BUTTON_BG" \
     -fill none -stroke '#f07a6a' -strokewidth 1 -draw 'polyline 12,9 19,9 23,9.8 26,11.6 27.6,14' \
     -transparent "$BUTTON_BG" \
     "$OUT/azzera.gif"
+
+# --- pointer -------------------------------------------------------------------------------------
+
+# The hand shown over the program's links: a white hand pointing up with a black outline, drawn
+# without anti-aliasing on a transparent ground, since a pointer has no soft edges. The shapes are
+# drawn once fat in black and once in white, so the outline goes round their union only.
+HAND=(-draw 'roundrectangle 7,1 12,19 2.5,2.5'
+    -draw 'roundrectangle 12,10 16.5,20 2.2,2.2'
+    -draw 'roundrectangle 16,11 20.5,21 2.2,2.2'
+    -draw 'roundrectangle 20,12 24.5,21 2.2,2.2'
+    -draw 'roundrectangle 7,16 24.5,29 4,4'
+    -draw 'roundrectangle 2,16 10,22 3,3')
+im -size 32x32 xc:none +antialias \
+    -fill black -stroke black -strokewidth 2 "${HAND[@]}" \
+    -fill white -stroke none "${HAND[@]}" \
+    -stroke black -strokewidth 1 \
+    -draw 'line 12,12 12,18' -draw 'line 16,13 16,18' -draw 'line 20,14 20,18' \
+    -draw 'line 8,21 10,21' \
+    -strip "GIF:$OUT/manina.gif"
 
 # --- sounds --------------------------------------------------------------------------------------
 
