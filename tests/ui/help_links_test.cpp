@@ -60,7 +60,8 @@ private slots:
         const QStringList help{QString::fromStdString((folder.path() / "GRIGLIONE.htm").string())};
         const QStringList missing{"Non trovato file di documentazione/help GRIGLIONE.htm"};
         const QStringList mail{QString("mailto:") + kEmailAutore}, site{kSitoWeb}, none;
-        const int f1 = Qt::Key_F1, f8 = Qt::CTRL | Qt::Key_F8, f9 = Qt::CTRL | Qt::Key_F9;
+        const int f1 = Qt::Key_F1, f8 = (Qt::CTRL | Qt::Key_F8).toCombined(),
+                  f9 = (Qt::CTRL | Qt::Key_F9).toCombined();
         QTest::newRow("help") << "file" << f1 << "" << help << none;
         QTest::newRow("no help") << "" << f1 << "" << none << missing;
         QTest::newRow("help is a folder") << "folder" << f1 << "" << none << missing;
