@@ -9,6 +9,7 @@
 #include "platform/fonts.h"
 #include "ui/colours.h"
 #include "ui/die_cell.h"
+#include "ui/editor_flow.h"
 #include "ui/end_of_match_window.h"
 #include "ui/path_overlay.h"
 #include "ui/time_bar.h"
@@ -126,6 +127,21 @@ MainWindow::MainWindow(Services services)
         m_services.yield, *this);
     connect(m_timer2, &QTimer::timeout, this, [this] { m_opponent->tick(); });
     wireMenu();
+    m_editors = std::make_unique<EditorFlow>(
+        EditorContext{m_state, m_dictionary, m_files, m_services.alerts, askOkCancel,
+                      m_services.yield, [this] { m_messages.chiudi(); }, m_services.terminate,
+                      m_services.folder},
+        [this] {
+            m_board.azzeraParola();
+            m_board.lanciaDadi(false);
+            m_state.secondiTrascorsi = 0;
+            m_timer1->stop();
+            m_timer2->stop();
+        },
+        [this] { nuovaPartita(); }, this);
+    connect(m_menu.vocabolario, &QAction::triggered, this, [this] { m_editors->openVocabulary(); });
+    connect(m_menu.vocabolarioPrincipale, &QAction::triggered, this,
+            [this] { m_editors->openDictionary(); });
 }
 
 MainWindow::~MainWindow() = default;

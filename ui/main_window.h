@@ -35,6 +35,7 @@ class QToolButton;
 namespace griglione {
 
 class DieCell;
+class EditorFlow;
 class EndOfMatchWindow;
 class PathOverlay;
 class TimeBar;
@@ -118,6 +119,7 @@ private:
     std::unique_ptr<WordSubmission> m_submission;
     std::unique_ptr<OpponentWalk> m_opponent;
     EndOfMatchWindow* m_endOfMatch = nullptr;
+    std::unique_ptr<EditorFlow> m_editors;
     bool m_inClockTick = false;
 
     std::array<DieCell*, kCells> m_cells{};
