@@ -1,5 +1,6 @@
 #include "core/atomic_file.h"
 
+#include <exception>
 #include <fstream>
 #include <iterator>
 #include <system_error>
@@ -9,9 +10,13 @@ namespace griglione {
 std::optional<std::string> readWholeFile(const std::filesystem::path& path) {
     std::ifstream in(path, std::ios::binary);
     if (!in) return std::nullopt;
-    std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    if (in.bad()) return std::nullopt;
-    return bytes;
+    try {
+        std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+        if (in.bad()) return std::nullopt;
+        return bytes;
+    } catch (const std::exception&) {
+        return std::nullopt; // a folder opens like a file, then fails on the first read
+    }
 }
 
 bool writeFileAtomically(const std::filesystem::path& path, std::string_view bytes) {

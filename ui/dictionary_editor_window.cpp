@@ -109,9 +109,7 @@ void DictionaryEditorWindow::buildControls() {
     connect(m_add, &QPushButton::clicked, this, &DictionaryEditorWindow::aggiungiParola);
     connect(m_insert, &QPushButton::clicked, this, &DictionaryEditorWindow::inserisci);
     connect(m_delete, &QPushButton::clicked, this, &DictionaryEditorWindow::cancellaParola);
-    connect(m_rebuild, &QPushButton::clicked, this, [this] {
-        if (!m_rebuilding) ricreaDizionario();
-    });
+    connect(m_rebuild, &QPushButton::clicked, this, &DictionaryEditorWindow::ricreaDizionario);
     connect(m_exit, &QPushButton::clicked, this, &DictionaryEditorWindow::uscita);
 }
 

@@ -1,7 +1,6 @@
 // The rebuild of the main dictionary, byte for byte: blocks read back for the editor's lists,
 // the new file laid out from position 440 whatever the old one looked like, and failures that
 // leave the old file as it was.
-#include "dictionary/dictionary.h"
 #include "dictionary/dictionary_rebuild.h"
 #include "tests/support/fakes.h"
 
@@ -10,7 +9,6 @@
 namespace griglione {
 namespace {
 
-using testing::FakeAlerts;
 using testing::TempFolder;
 
 std::string field(const std::string& digits) {
@@ -79,28 +77,6 @@ TEST(DictionaryRebuild, LaysBlocksOutFrom440InLengthOrderAndDropsWhatTheListsLac
                 "ABBA"
                 "CASTEL";
     EXPECT_EQ(folder.read("SLESSICO.1"), expected);
-}
-
-TEST(DictionaryRebuild, TheNewIndexFindsTheAddedWord) {
-    TempFolder folder;
-    WordLists words;
-    words[1] = {"CASA", "MARE"};
-    folder.write("SLESSICO.1", buildDictionaryFile("", words));
-    GameState state;
-    OpenFileTable files;
-    FakeAlerts alerts;
-    Dictionary dictionary(
-        state, files, alerts, [] {}, folder.path());
-    dictionary.prendidiz();
-    words[0] = {"ERA"};
-    words[1] = {"CASA", "LUNA", "MARE"};
-    ASSERT_TRUE(rebuildDictionary(folder.path(), 1, "", words));
-    EXPECT_FALSE(dictionary.trovaInDizionario("ERA")); // the index still describes the old file
-    dictionary.prendidiz();
-    for (const char* word : {"ERA", "CASA", "LUNA", "MARE"}) {
-        EXPECT_TRUE(dictionary.trovaInDizionario(word)) << word;
-        EXPECT_EQ(dictionary.cercaParola(word), "SI") << word;
-    }
 }
 
 TEST(DictionaryRebuild, AFailedWriteLeavesTheOldDictionaryUntouched) {

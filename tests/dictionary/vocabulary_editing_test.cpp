@@ -87,17 +87,6 @@ TEST(VocabularyEditing, CountLabelsAreReadBackAfterTheirParenthesis) {
     for (const Case c : {Case{"(12) parole", 12}, Case{"(32767) Parole", 32767},
                          Case{"(0) Parole", 0}, Case{"", 0}, Case{"( 7) Parole", 7}})
         EXPECT_EQ(countLabelNumber(c.label), c.number) << c.label;
-    // An edit counts on from what the label shows, and says so with the capital.
-    EXPECT_EQ(countLabel(countLabelNumber("(12) parole") + 1, true), "(13) Parole");
-    EXPECT_EQ(countLabel(5, false), "(5) parole");
-}
-
-TEST(VocabularyEditing, InsertAcceptsThreeToFifteenLettersNotInTheList) {
-    const auto list = [](const std::string& w) { return w == "CASA"; };
-    EXPECT_EQ(checkInsert("AB", list), InsertCheck::BadLength);
-    EXPECT_EQ(checkInsert("ABCDEFGHILMNOPQR", list), InsertCheck::BadLength);
-    EXPECT_EQ(checkInsert("CASA", list), InsertCheck::Exists);
-    EXPECT_EQ(checkInsert("ABC", list), InsertCheck::Added);
 }
 
 } // namespace
