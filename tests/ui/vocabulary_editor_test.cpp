@@ -1,8 +1,13 @@
 // The personal vocabulary editor driven by keys: the checks of a new word and their messages,
-// deletions and the selection that follows, and the file written only by "&Torna al gioco".
+// deletions and the selection that follows, the file written only by "&Torna al gioco", and the
+// match abandoned while the editor is open and started afresh when it closes.
+#include "board/board_layout.h"
+#include "core/mixing_random.h"
 #include "tests/support/fakes.h"
+#include "ui/main_window.h"
 #include "ui/vocabulary_editor_window.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
@@ -125,8 +130,8 @@ private slots:
         QVERIFY(folder->exists("ZarmPriv.1"));
         QCOMPARE(folder->read("ZarmPriv.1"), "");
         key(Qt::Key_C, Qt::AltModifier);
-        QTRY_COMPARE(alerts.shown.back(),
-                     "Non ci sono parole da cancellare dal vocabolario privato!");
+        QTRY_COMPARE(alerts.shown.size(), std::size_t(1));
+        QCOMPARE(alerts.shown[0], "Non ci sono parole da cancellare dal vocabolario privato!");
         key(Qt::Key_H, Qt::AltModifier); // no rules file: the editor's own message, then no text
         QTRY_COMPARE(alerts.shown.size(), std::size_t(3));
         QCOMPARE(alerts.shown[1], "ERRORE 0001: File contenente le regole sulle parole non "
@@ -141,6 +146,41 @@ private slots:
         QCOMPARE(alerts.shown.back(),
                  "Errore non e' possibile scrivere sul disco nella posizione: " +
                      folder->path().string() + " - Il programma verra' terminato.");
+    }
+
+    void theMenuAbandonsTheMatchAndStartsANewOneWhenTheEditorCloses() {
+        WordLists words;
+        words[1] = {"CASA"};
+        folder->write("SLESSICO.1", buildDictionaryFile("test", words));
+        FakeSounds sounds;
+        FakeOutside outside;
+        FixedClock clock;
+        MixingRandom random{7};
+        MainWindow main(
+            Services{sounds, alerts, outside, clock, random, [] {}, folder->path(), [] {}});
+        main.startUp();
+        main.show();
+        QVERIFY(QTest::qWaitForWindowActive(&main));
+        main.findChild<QAction*>("menuNuovo")->trigger();
+        auto* timer1 = main.findChild<QTimer*>("Timer1");
+        auto* timer2 = main.findChild<QTimer*>("Timer2");
+        bool abandoned = false;
+        std::function<void(int)> leave = [&](int tries) {
+            QWidget* editor = QApplication::activeModalWidget();
+            if (!editor || !editor->isActiveWindow()) {
+                if (tries > 0) QTimer::singleShot(5, [&, tries] { leave(tries - 1); });
+                return;
+            }
+            abandoned = editor->objectName() == "Form5" && !timer1->isActive() &&
+                        !timer2->isActive() && tavolaVuota(main.state());
+            QTest::keyClick(editor, Qt::Key_T, Qt::AltModifier);
+        };
+        leave(400);
+        QTest::keyClick(&main, Qt::Key_F6);
+        QVERIFY(abandoned);
+        QVERIFY(timer1->isActive() && timer2->isActive());
+        QVERIFY(!tavolaVuota(main.state()));
+        QCOMPARE(folder->read("ZarmPriv.1"), std::string());
     }
 };
 
