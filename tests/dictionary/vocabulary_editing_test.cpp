@@ -1,5 +1,4 @@
-// The editors' rules: the order of the checks of a new personal word, the selection after a
-// deletion, the main editor's key filter and the reading of its count labels.
+// The order of the checks of a new personal word, and the main editor's key filter.
 #include "dictionary/vocabulary_editing.h"
 
 #include <gtest/gtest.h>
@@ -43,18 +42,6 @@ TEST(VocabularyEditing, NewWordChecksStopAtTheFirstFailureAndScanOnlyWellFormedW
     }
 }
 
-TEST(VocabularyEditing, DeletionNeedsASelectionAndSelectsTheWordBefore) {
-    EXPECT_EQ(deleteRefusal(-1, 3), "Occorre prima selezionare la parola da cancellare!");
-    EXPECT_EQ(deleteRefusal(-1, 0), "Non ci sono parole da cancellare dal vocabolario privato!");
-    EXPECT_EQ(deleteRefusal(2, 3), std::nullopt);
-    struct Case {
-        int removed, remaining, expected;
-    };
-    for (const Case c : {Case{0, 2, 0}, Case{1, 2, 0}, Case{2, 2, 1}, Case{0, 0, -1}})
-        EXPECT_EQ(rowAfterDelete(c.removed, c.remaining), c.expected)
-            << c.removed << " of " << c.remaining + 1;
-}
-
 TEST(VocabularyEditing, EntryKeysKeepOnlyTheItalianLettersInUpperCase) {
     struct Case {
         char key;
@@ -77,16 +64,6 @@ TEST(VocabularyEditing, EntryKeysKeepOnlyTheItalianLettersInUpperCase) {
             EXPECT_EQ(got.key, c.kept) << int(c.key);
         }
     }
-}
-
-TEST(VocabularyEditing, CountLabelsAreReadBackAfterTheirParenthesis) {
-    struct Case {
-        const char* label;
-        std::int64_t number;
-    };
-    for (const Case c : {Case{"(12) parole", 12}, Case{"(32767) Parole", 32767},
-                         Case{"(0) Parole", 0}, Case{"", 0}, Case{"( 7) Parole", 7}})
-        EXPECT_EQ(countLabelNumber(c.label), c.number) << c.label;
 }
 
 } // namespace
