@@ -76,6 +76,9 @@ void DictionaryEditorWindow::buildControls() {
         list->setGeometry(x, y + 20, 135, 24);
         // Thousands of words: measuring each one for the list's width would take seconds.
         list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        // A drop-down of a dozen words, not one as tall as the screen.
+        list->setStyleSheet("QComboBox { combobox-popup: 0; }");
+        list->setMaxVisibleItems(12);
         auto* view = new QListView(list);
         view->setUniformItemSizes(true);
         list->setView(view);
