@@ -2,6 +2,7 @@
 
 #include "core/file_names.h"
 
+#include <exception>
 #include <fstream>
 #include <iterator>
 #include <system_error>
@@ -11,9 +12,13 @@ namespace griglione {
 std::optional<std::string> readWholeFile(const std::filesystem::path& path) {
     std::ifstream in(path, std::ios::binary);
     if (!in) return std::nullopt;
-    std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    if (in.bad()) return std::nullopt;
-    return bytes;
+    try {
+        std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+        if (in.bad()) return std::nullopt;
+        return bytes;
+    } catch (const std::exception&) {
+        return std::nullopt; // a folder opens like a file, then fails on the first read
+    }
 }
 
 bool writeFileAtomically(const std::filesystem::path& target, std::string_view bytes) {

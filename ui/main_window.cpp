@@ -9,6 +9,7 @@
 #include "platform/fonts.h"
 #include "ui/colours.h"
 #include "ui/die_cell.h"
+#include "ui/editor_flow.h"
 #include "ui/end_of_match_window.h"
 #include "ui/help_links.h"
 #include "ui/path_overlay.h"
@@ -132,6 +133,21 @@ MainWindow::MainWindow(Services services)
     wireMenu();
     new HelpLinks(this, m_menu, m_services.outside, m_services.alerts, m_messages,
                   m_services.folder);
+    m_editors = std::make_unique<EditorFlow>(
+        EditorContext{m_state, m_dictionary, m_files, m_services.alerts, askOkCancel,
+                      m_services.yield, [this] { m_messages.chiudi(); }, m_services.terminate,
+                      m_services.folder},
+        [this] {
+            m_board.azzeraParola();
+            m_board.lanciaDadi(false);
+            m_state.secondiTrascorsi = 0;
+            m_timer1->stop();
+            m_timer2->stop();
+        },
+        [this] { nuovaPartita(); }, this);
+    connect(m_menu.vocabolario, &QAction::triggered, this, [this] { m_editors->openVocabulary(); });
+    connect(m_menu.vocabolarioPrincipale, &QAction::triggered, this,
+            [this] { m_editors->openDictionary(); });
 }
 
 MainWindow::~MainWindow() = default;

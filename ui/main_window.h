@@ -35,6 +35,7 @@ class QToolButton;
 namespace griglione {
 
 class DieCell;
+class EditorFlow;
 class EndOfMatchWindow;
 class PathOverlay;
 class RecordsFlow;
@@ -120,6 +121,7 @@ private:
     std::unique_ptr<OpponentWalk> m_opponent;
     std::unique_ptr<RecordsFlow> m_records;
     EndOfMatchWindow* m_endOfMatch = nullptr;
+    std::unique_ptr<EditorFlow> m_editors;
     bool m_inClockTick = false;
 
     std::array<DieCell*, kCells> m_cells{};
