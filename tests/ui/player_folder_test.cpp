@@ -73,14 +73,22 @@ private slots:
             confirm->findChild<QAbstractButton*>("Command1")->click();
         });
         window->findChild<QAbstractButton*>("Command2")->click();
+        window->state().puntiGiocatore = 1500;
+        QTimer::singleShot(0, [] {
+            for (QWidget* shown : QApplication::topLevelWidgets())
+                if (shown->objectName() == "Form4" && shown->isVisible()) shown->close();
+        });
+        window->findChild<QAction*>("MenuFine")->trigger();
         window.reset();
 
         QDir::setCurrent(before);
         setFileSearchOrder({});
         QVERIFY(fs::exists(player / "ZARMOLO.INI"));
         QCOMPARE(readWholeFile(player / "ZarmPriv.1").value_or(""), std::string("ZEBRA\r\n"));
+        QVERIFY(readWholeFile(player / "zarMolo.HIS").value_or("").starts_with("BRIVO, 1500 \r\n"));
         for (const fs::path& shared : {program, data})
-            QVERIFY(!fs::exists(shared / "ZARMOLO.INI") && !fs::exists(shared / "ZarmPriv.1"));
+            for (const char* name : {"ZARMOLO.INI", "ZarmPriv.1", "zarMolo.HIS"})
+                QVERIFY(!fs::exists(shared / name));
         fs::permissions(program, fs::perms::owner_write, fs::perm_options::add);
     }
 };
