@@ -1,5 +1,7 @@
 #include "ui/alert_boxes.h"
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QMessageBox>
 
 #include <cstdlib>
@@ -10,6 +12,14 @@ void AlertBoxes::avviso(const std::string& testo) {
     QMessageBox box(QMessageBox::NoIcon, kProgramTitle, QString::fromStdString(testo),
                     QMessageBox::Ok, m_parent);
     box.exec();
+}
+
+bool askOkCancel(const std::string& text) {
+    QMessageBox box(QMessageBox::NoIcon, kProgramTitle, QString::fromStdString(text),
+                    QMessageBox::Ok | QMessageBox::Cancel, QApplication::activeModalWidget());
+    // The boxes speak Italian like the rest of the program, whatever the system's language.
+    box.button(QMessageBox::Cancel)->setText("Annulla");
+    return box.exec() == QMessageBox::Ok;
 }
 
 void AlertBoxes::fatale(const std::string& testo) {

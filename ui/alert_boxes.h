@@ -3,11 +3,16 @@
 
 #include "core/ports.h"
 
+#include <string>
+
 class QWidget;
 
 namespace griglione {
 
 inline constexpr const char* kProgramTitle = "Il Griglione";
+
+// An OK / Annulla box over the window in front; true for OK.
+bool askOkCancel(const std::string& text);
 
 class AlertBoxes final : public Alerts {
 public:

@@ -4,16 +4,8 @@
 #include "ui/dictionary_editor_window.h"
 #include "ui/vocabulary_editor_window.h"
 
-#include <QApplication>
-#include <QMessageBox>
 
 namespace griglione {
-
-bool askOkCancel(const std::string& text) {
-    QMessageBox box(QMessageBox::NoIcon, kProgramTitle, QString::fromStdString(text),
-                    QMessageBox::Ok | QMessageBox::Cancel, QApplication::activeModalWidget());
-    return box.exec() == QMessageBox::Ok;
-}
 
 EditorFlow::EditorFlow(EditorContext context, std::function<void()> abandonMatch,
                        std::function<void()> newMatch, QWidget* parent)

@@ -11,9 +11,6 @@ class QWidget;
 
 namespace griglione {
 
-// A message box with OK and Cancel under the program's title, over the active window.
-bool askOkCancel(const std::string& text);
-
 class EditorFlow {
 public:
     // `abandonMatch` clears the traced word, deals the blank board, zeroes the elapsed time and

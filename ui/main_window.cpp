@@ -7,6 +7,7 @@
 #include "core/levels.h"
 #include "core/match_clock.h"
 #include "platform/fonts.h"
+#include "ui/alert_boxes.h"
 #include "ui/colours.h"
 #include "ui/die_cell.h"
 #include "ui/editor_flow.h"
