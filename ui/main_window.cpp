@@ -11,6 +11,7 @@
 #include "ui/die_cell.h"
 #include "ui/end_of_match_window.h"
 #include "ui/path_overlay.h"
+#include "ui/review_window.h"
 #include "ui/time_bar.h"
 #include "ui/twips.h"
 
@@ -375,6 +376,8 @@ void MainWindow::endOfMatch() {
     if (!m_endOfMatch)
         m_endOfMatch = new EndOfMatchWindow(*m_timer1, *m_timer2, m_sounds, m_messages,
                                             m_services.terminate, this);
+    m_endOfMatch->setReviewOpener(
+        [this] { ReviewWindow::open(m_state, m_services.folder, m_endOfMatch); });
     m_endOfMatch->hide();
     m_endOfMatch->showResult(m_playerName->text(), m_playerScore->text().toInt(),
                              m_cpuScore->text().toInt(), levelChecks());

@@ -1,0 +1,55 @@
+// The review of the board just played, opened over the end-of-match window: the dice, the words
+// each player found and those nobody found, and where each of them lies on the board.
+#pragma once
+
+#include "board/path.h"
+#include "core/game_state.h"
+#include "review/board_review.h"
+
+#include <QDialog>
+
+#include <array>
+#include <filesystem>
+#include <vector>
+
+class QLabel;
+class QListWidget;
+
+namespace griglione {
+
+class DieCell;
+class PathOverlay;
+
+class ReviewWindow final : public QDialog {
+    Q_OBJECT
+public:
+    // Reads the word list of the language played, finds the board's words and releases the list
+    // again before the window shows: only the words found stay in memory.
+    ReviewWindow(const GameState& state, const std::filesystem::path& folder, QWidget* parent);
+
+    // Opens the review modally over `parent` and returns when it is closed.
+    static void open(const GameState& state, const std::filesystem::path& folder, QWidget* parent);
+
+private:
+    void buildBoard(const GameState& state, const std::filesystem::path& folder);
+    void buildLists();
+    void showWords();
+    void cellPressed(int cell);
+    void wordChosen(std::size_t list, int row);
+    void drawPath(const std::vector<int>& path);
+
+    BoardLetters m_letters{};
+    BoardReview m_review;
+    int m_filter = -1; // the die whose words alone are shown; -1 for all
+    Path m_path;
+    std::array<DieCell*, kCells> m_cells{};
+    PathOverlay* m_overlay = nullptr;
+    QWidget* m_marker = nullptr; // the frame around the filtering die
+    QLabel* m_total = nullptr;
+    QLabel* m_hint = nullptr;
+    std::array<QLabel*, 3> m_headings{};
+    std::array<QListWidget*, 3> m_lists{};
+    std::array<std::vector<const ReviewEntry*>, 3> m_shown;
+};
+
+} // namespace griglione
