@@ -37,9 +37,7 @@ QString words(std::size_t n) {
 
 } // namespace
 
-ReviewWindow::ReviewWindow(const GameState& state, const std::filesystem::path& folder,
-                           QWidget* parent)
-    : QDialog(parent) {
+ReviewWindow::ReviewWindow(QWidget* parent) : QDialog(parent) {
     setObjectName("Form10");
     setWindowTitle("Il Griglione - Parole del tabellone");
     setFixedSize(kWidth, kHeight);
@@ -48,34 +46,39 @@ ReviewWindow::ReviewWindow(const GameState& state, const std::filesystem::path& 
     palette.setColor(QPalette::Window, QColor(192, 192, 192));
     setPalette(palette);
 
+    m_total = new QLabel(this);
+    m_total->setObjectName("Label1");
+    m_total->setGeometry(kMargin, 10, kWidth - 2 * kMargin, 24);
+    m_total->setFont(tahoma(11, true));
+    buildBoard();
+    buildLists();
+}
+
+void ReviewWindow::load(const GameState& state, const std::filesystem::path& folder) {
     m_letters = boardLetters(state);
     {
         const WordList list = readWordList(folder, state.numDizionario);
         m_review = reviewBoard(findWords(list, m_letters), m_letters, state.paroleGiocatore,
                                state.paroleCPU);
     }
-
-    m_total = new QLabel(this);
-    m_total->setObjectName("Label1");
-    m_total->setGeometry(kMargin, 10, kWidth - 2 * kMargin, 24);
-    m_total->setFont(tahoma(11, true));
     m_total->setText(
         QStringLiteral("Il tabellone nascondeva %1 per %2 punti in tutto.")
             .arg(words(static_cast<std::size_t>(m_review.words)), points(m_review.points)));
-
-    buildBoard(state, folder);
+    for (int n = 0; n < kCells; ++n) {
+        const auto file = resolveFileName(folder, state.immagineCella[n]);
+        m_cells[n]->setPicture(QPixmap(QString::fromStdString(file.string())));
+    }
     m_overlay->setLineWidth(state.spessoreLinea + 5);
-    buildLists();
+    m_filter = -1;
     showWords();
 }
 
-void ReviewWindow::open(const GameState& state, const std::filesystem::path& folder,
-                        QWidget* parent) {
-    ReviewWindow review(state, folder, parent);
-    review.exec();
+void ReviewWindow::showBoard(const GameState& state, const std::filesystem::path& folder) {
+    load(state, folder);
+    exec();
 }
 
-void ReviewWindow::buildBoard(const GameState& state, const std::filesystem::path& folder) {
+void ReviewWindow::buildBoard() {
     auto* board = new QWidget(this);
     board->setObjectName("board");
     board->setGeometry(kMargin - 4, kBoardTop - 4, kBoardSide * kDie + 8, kBoardSide * kDie + 8);
@@ -86,8 +89,6 @@ void ReviewWindow::buildBoard(const GameState& state, const std::filesystem::pat
     for (int n = 0; n < kCells; ++n) {
         auto* cell = new DieCell(n, board);
         cell->setGeometry(4 + (n % kBoardSide) * kDie, 4 + (n / kBoardSide) * kDie, kDie, kDie);
-        const auto file = resolveFileName(folder, state.immagineCella[n]);
-        cell->setPicture(QPixmap(QString::fromStdString(file.string())));
         connect(cell, &DieCell::pressed, this, [this](int index, int) { cellPressed(index); });
         m_cells[n] = cell;
     }

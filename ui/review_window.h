@@ -23,15 +23,18 @@ class PathOverlay;
 class ReviewWindow final : public QDialog {
     Q_OBJECT
 public:
-    // Reads the word list of the language played, finds the board's words and releases the list
-    // again before the window shows: only the words found stay in memory.
-    ReviewWindow(const GameState& state, const std::filesystem::path& folder, QWidget* parent);
+    // Made once and shown again for every board, like the end-of-match window it opens over.
+    explicit ReviewWindow(QWidget* parent);
 
-    // Opens the review modally over `parent` and returns when it is closed.
-    static void open(const GameState& state, const std::filesystem::path& folder, QWidget* parent);
+    // Shows the board of `state`: reads the word list of the language played, finds the board's
+    // words and releases the list again, so only the words found stay in memory.
+    void load(const GameState& state, const std::filesystem::path& folder);
+
+    // `load`, then the review modally over its parent; returns when it is closed.
+    void showBoard(const GameState& state, const std::filesystem::path& folder);
 
 private:
-    void buildBoard(const GameState& state, const std::filesystem::path& folder);
+    void buildBoard();
     void buildLists();
     void showWords();
     void cellPressed(int cell);
