@@ -165,7 +165,7 @@ void ReviewWindow::showWords() {
     } else {
         m_marker->move(4 + (m_filter % kBoardSide) * kDie, 4 + (m_filter / kBoardSide) * kDie);
         m_marker->show();
-        m_hint->setText("Solo le parole che passano per il dado cerchiato: cliccalo di nuovo, o "
+        m_hint->setText("Solo le parole che passano per il dado evidenziato: cliccalo di nuovo, o "
                         "\"Tutte\", per vederle tutte.");
     }
     drawPath({});
