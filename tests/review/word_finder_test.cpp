@@ -13,24 +13,13 @@
 using namespace griglione;
 using namespace griglione::testing;
 
-namespace {
-
-std::string spell(const BoardLetters& letters, const std::vector<int>& path) {
-    std::string word;
-    for (int n : path)
-        word += letters[n];
-    return word;
-}
-
-} // namespace
-
 TEST(WordFinder, FindsExactlyTheWordsThatHaveAPathAndAreKnown) {
     std::mt19937 random(7);
     const auto pick = [&](int n) { return static_cast<int>(random() % n); };
-    for (int round = 0; round < 8; ++round) {
+    for (int round = 0; round < 4; ++round) {
         BoardLetters letters{};
         for (char& c : letters)
-            c = "AEST"[pick(4)];
+            c = "AEIST"[pick(5)];
         letters[pick(kCells)] = '\0'; // a blank die spells nothing
         // Words walked on the board, and as many made up, of every length; some go to the
         // personal vocabulary, in lower case as a player may write them there.
@@ -38,7 +27,7 @@ TEST(WordFinder, FindsExactlyTheWordsThatHaveAPathAndAreKnown) {
         for (int i = 0; i < 400; ++i) {
             std::string word;
             for (int cell = pick(kCells), n = 3 + pick(8); n > 0; --n) {
-                word += i % 2 ? "AEST"[pick(4)] : letters[cell];
+                word += i % 2 ? "AEIST"[pick(5)] : letters[cell];
                 cell = std::clamp(cell + std::array{-6, -5, -4, -1, 1, 4, 5, 6}[pick(8)], 0, 24);
             }
             if (word.find('\0') == std::string::npos) candidates.insert(word);
@@ -67,8 +56,9 @@ TEST(WordFinder, FindsExactlyTheWordsThatHaveAPathAndAreKnown) {
         for (const FoundWord& f : findWords(readWordList(folder.path(), 1), letters)) {
             EXPECT_TRUE(found.insert(f.word).second) << f.word << " twice";
             EXPECT_EQ(dictionary.cercaParola(f.word), "SI") << f.word;
-            EXPECT_EQ(spell(letters, f.path), f.word);
+            ASSERT_EQ(f.path.size(), f.word.size());
             for (std::size_t i = 0; i < f.path.size(); ++i) {
+                EXPECT_EQ(letters[f.path[i]], f.word[i]);
                 EXPECT_EQ(std::count(f.path.begin(), f.path.end(), f.path[i]), 1);
                 EXPECT_TRUE(i == 0 || celleAdiacenti(f.path[i - 1], f.path[i])) << f.word;
             }
@@ -87,22 +77,15 @@ TEST(WordList, KeepsTheWholeRecordsOfACutOrMissingFile) {
     blocks[2] = {"SESTA", "TESTA"};
     const std::string file = buildDictionaryFile("test", blocks);
     const std::size_t end = file.find("TESTA") + 5;
-    BoardLetters letters{};
-    std::string("SESTAATESTTSEAS").copy(letters.data(), 15);
     const struct {
         std::string bytes;
-        std::set<std::string> words;
-    } cases[] = {
-        {file.substr(0, end), {"ASA", "ESE", "SESTA", "TESTA"}},
-        {file.substr(0, end - 1), {"ASA", "ESE", "SESTA"}},
-        {file.substr(0, 300), {}},
-        {"", {}},
-    };
+        std::size_t words;
+    } cases[] = {{file.substr(0, end), 4}, {file.substr(0, end - 1), 3}, {file.substr(0, 300), 0}};
     for (const auto& c : cases) {
-        std::set<std::string> found;
-        for (const FoundWord& f : findWords(wordListFrom(c.bytes, {}), letters))
-            found.insert(f.word);
-        EXPECT_EQ(found, c.words) << c.bytes.size();
+        std::size_t words = 0;
+        for (const WordBlock& block : wordListFrom(c.bytes, {}).blocks)
+            words += block.count();
+        EXPECT_EQ(words, c.words) << c.bytes.size();
     }
     TempFolder folder;
     std::filesystem::create_directory(folder.path() / "SLESSICO.1");
