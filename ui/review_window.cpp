@@ -7,6 +7,7 @@
 #include "ui/die_cell.h"
 #include "ui/path_overlay.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -75,6 +76,8 @@ void ReviewWindow::load(const GameState& state, const std::filesystem::path& fol
 
 void ReviewWindow::showBoard(const GameState& state, const std::filesystem::path& folder) {
     load(state, folder);
+    // Enter closes the review at once; Tab leads to the dice and the lists.
+    m_close->setFocus();
     exec();
 }
 
@@ -90,6 +93,11 @@ void ReviewWindow::buildBoard() {
         auto* cell = new DieCell(n, board);
         cell->setGeometry(4 + (n % kBoardSide) * kDie, 4 + (n / kBoardSide) * kDie, kDie, kDie);
         connect(cell, &DieCell::pressed, this, [this](int index, int) { cellPressed(index); });
+        // From the keyboard: Tab reaches the dice, Enter filters as a click does.
+        cell->setFocusPolicy(Qt::StrongFocus);
+        cell->installEventFilter(this);
+        connect(cell, &DieCell::enterPressed, this, [this, n] { cellPressed(n); });
+        connect(cell, &DieCell::escapePressed, this, &QDialog::reject);
         m_cells[n] = cell;
     }
     // The marker lies under the path and over the dice, and lets presses through to them.
@@ -99,6 +107,11 @@ void ReviewWindow::buildBoard() {
     m_marker->setStyleSheet("border: 3px solid rgb(255, 200, 0);");
     m_marker->resize(kDie, kDie);
     m_marker->hide();
+    m_focusMarker = new QWidget(board);
+    m_focusMarker->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_focusMarker->setStyleSheet("border: 2px dashed rgb(0, 0, 0);");
+    m_focusMarker->resize(kDie - 8, kDie - 8);
+    m_focusMarker->hide();
     m_overlay = new PathOverlay(m_path, QSize(kDie, kDie), board);
     m_overlay->move(4, 4);
 
@@ -134,11 +147,11 @@ void ReviewWindow::buildLists() {
         m_filter = -1;
         showWords();
     });
-    auto* close = new QPushButton("&Chiudi", this);
-    close->setObjectName("Command2");
-    close->setGeometry(kWidth - kMargin - 100, buttonsTop, 100, 28);
-    close->setDefault(true);
-    connect(close, &QPushButton::clicked, this, &QDialog::accept);
+    m_close = new QPushButton("&Chiudi", this);
+    m_close->setObjectName("Command2");
+    m_close->setGeometry(kWidth - kMargin - 100, buttonsTop, 100, 28);
+    m_close->setDefault(true);
+    connect(m_close, &QPushButton::clicked, this, &QDialog::accept);
 }
 
 void ReviewWindow::showWords() {
@@ -169,6 +182,15 @@ void ReviewWindow::showWords() {
                         "\"Tutte\", per vederle tutte.");
     }
     drawPath({});
+}
+
+bool ReviewWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+        auto* cell = static_cast<QWidget*>(watched);
+        m_focusMarker->move(cell->pos() + QPoint(4, 4));
+        m_focusMarker->setVisible(event->type() == QEvent::FocusIn);
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void ReviewWindow::cellPressed(int cell) {
