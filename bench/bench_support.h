@@ -42,7 +42,7 @@ public:
     }
     static const char* description() {
 #ifdef GRIGLIONE_BENCH_WITH_QT
-        return "yields run QCoreApplication::processEvents";
+        return "yields run the program's yieldToWindow";
 #else
         return "yields do nothing (built without Qt)";
 #endif

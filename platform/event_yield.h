@@ -1,4 +1,5 @@
-// The yield of long operations: lets pending window events and timer ticks run.
+// The yield of long operations: lets pending window events and timer ticks run, at most once a
+// millisecond.
 #pragma once
 
 namespace griglione {

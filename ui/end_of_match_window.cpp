@@ -76,6 +76,13 @@ EndOfMatchWindow::EndOfMatchWindow(QTimer& matchClock, QTimer& opponentClock, So
     cancel->setObjectName("Command2");
     cancel->setGeometry(twipsRect(4890, 4410, 960, 420));
     connect(cancel, &QPushButton::clicked, this, [this] { m_terminate(); });
+    auto* review = new QPushButton("&Parole del tabellone", this);
+    review->setObjectName("Command3");
+    review->setGeometry(twipsRect(3870, 4920, 1980, 420));
+    review->setAutoDefault(false);
+    connect(review, &QPushButton::clicked, this, [this] {
+        if (m_openReview) m_openReview();
+    });
 
     m_matchClock.stop();
     m_opponentClock.stop();

@@ -25,6 +25,9 @@ public:
                      MessageHost& messages, std::function<void()> terminate, QWidget* parent);
 
     // Shows the result modally; returns when "&OK" has hidden the window again.
+    // What "&Parole del tabellone" opens: the review of the board just played.
+    void setReviewOpener(std::function<void()> open) { m_openReview = std::move(open); }
+
     void showResult(const QString& playerName, int playerScore, int cpuScore,
                     const std::array<bool, 4>& levelChecked);
 
@@ -40,6 +43,7 @@ private:
     Sounds& m_sounds;
     MessageHost& m_messages;
     std::function<void()> m_terminate;
+    std::function<void()> m_openReview;
     MatchStatistics m_statistics;
     QLabel* m_result = nullptr;
     std::array<QLabel*, 2> m_names{};

@@ -15,6 +15,7 @@
 #include "ui/help_links.h"
 #include "ui/path_overlay.h"
 #include "ui/records_flow.h"
+#include "ui/review_window.h"
 #include "ui/time_bar.h"
 #include "ui/twips.h"
 
@@ -395,9 +396,16 @@ void MainWindow::clockTick() {
 void MainWindow::endOfMatch() {
     m_timer2->stop();
     m_timer1->stop();
-    if (!m_endOfMatch)
+    if (!m_endOfMatch) {
         m_endOfMatch = new EndOfMatchWindow(*m_timer1, *m_timer2, m_sounds, m_messages,
                                             m_services.terminate, this);
+        // The review is made at its first opening and then kept, like the window it opens over.
+        ReviewWindow* review = nullptr;
+        m_endOfMatch->setReviewOpener([this, review]() mutable {
+            if (!review) review = new ReviewWindow(m_endOfMatch);
+            review->showBoard(m_state, m_services.folder);
+        });
+    }
     m_endOfMatch->hide();
     m_endOfMatch->showResult(m_playerName->text(), m_playerScore->text().toInt(),
                              m_cpuScore->text().toInt(), levelChecks());
