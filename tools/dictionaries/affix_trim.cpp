@@ -111,9 +111,12 @@ private:
     }
 
     bool isContraction(const Entry& e) const {
+        const auto& triples = m_triples.at({e.kind, e.flag});
+        if (m_rules.contractedV && e.add.size() >= 2 && e.add[0] != 'i' &&
+            triples.contains({e.strip, e.add.substr(0, 1) + 'v' + e.add.substr(1), e.condition}))
+            return true;
         if (m_rules.contractedStrip.empty() || !endsWith(e.strip, m_rules.contractedStrip))
             return false;
-        const auto& triples = m_triples.at({e.kind, e.flag});
         for (const char vowel : std::string_view("ie"))
             if (triples.contains({e.strip, vowel + e.add, e.condition})) return true;
         return false;
@@ -149,6 +152,7 @@ AffixRules latinAffixRules() {
     rules.encliticAloneAfterAnyStrip = true;
     rules.fullFormMarker = "que";
     rules.contractedStrip = "i";
+    rules.contractedV = true;
     return rules;
 }
 
