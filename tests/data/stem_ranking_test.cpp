@@ -57,6 +57,13 @@ TEST(StemRanking, SplitsTheStemsIntoDicFilesByCount) {
     EXPECT_EQ(files[2], "3\nlegi/P\nlego/APS\nrarissimus/abc\n");
 }
 
+TEST(StemRanking, KeepsTheFirstSpellingOfTheLatinStems) {
+    const std::string dic = "7\n# header\namo/APS\nZeus/q\n\nabacvs/b\nzythvm/c\nabauia/a\nuir/q\n";
+    EXPECT_EQ(schoolSpellingStems(dic), "3\n# header\namo/APS\nZeus/q\n");
+    EXPECT_EQ(schoolSpellingStems("2\nab\nzona\r\nAbas\n"), "2\nab\nzona\r\n");
+    EXPECT_EQ(schoolSpellingStems(""), "0\n");
+}
+
 TEST(StemRanking, AListedWordCountsOnce) {
     const auto counts = listedWordCounts("casa\nCittà\nperché\r\n\n");
     EXPECT_EQ(counts, (std::map<std::string, long>{{"CASA", 1}, {"PERCHE", 1}}));

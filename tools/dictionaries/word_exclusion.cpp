@@ -104,7 +104,9 @@ std::vector<std::string> inflectedForms(std::string_view capitals, Language lang
             (stem.back() == 'C' || stem.back() == 'G') && (last == 'O' || last == 'A');
         const std::string plural = hard ? stem + "H" : stem;
         if (last == 'O') {
-            forms.insert(forms.end(), {plural + "I", stem + "A", plural + "E"});
+            // frocio: froci, not frocii.
+            const std::string masculine = plural.back() == 'I' ? plural : plural + "I";
+            forms.insert(forms.end(), {masculine, stem + "A", plural + "E"});
         } else if (last == 'A') {
             forms.push_back(plural + "E");
         } else if (word.size() > 5 &&
@@ -113,7 +115,7 @@ std::vector<std::string> inflectedForms(std::string_view capitals, Language lang
         } else if (last == 'E') {
             forms.push_back(stem + "I");
             // -one names a person, and has a feminine: terrone, terrona.
-            if (endsWith(word, "ONE")) forms.push_back(stem.substr(0, stem.size() - 1) + "A");
+            if (endsWith(word, "ONE")) forms.push_back(stem + "A");
         }
     }
     return forms;
