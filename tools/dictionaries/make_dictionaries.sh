@@ -31,7 +31,8 @@ for p in witalian hunspell-it wamerican-large wbritish-large collatinus libgtest
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" ||
         missing+=("$p")
 done
-for tool in unmunch:hunspell-tools npm:npm node:nodejs cmake:cmake ninja:ninja-build g++:g++ iconv:libc-bin; do
+for tool in unmunch:hunspell-tools npm:npm node:nodejs cmake:cmake ninja:ninja-build g++:g++ \
+    iconv:libc-bin; do
     command -v "${tool%%:*}" >/dev/null || missing+=("${tool#*:}")
 done
 if [ ${#missing[@]} -gt 0 ]; then
