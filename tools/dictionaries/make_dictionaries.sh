@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Remakes data/SLESSICO.1 (Italian), SLESSICO.2 (English), SLESSICO.3 (Latin) and REGPAROL.TXT
 # from their sources: installs the word-list packages, expands the Hunspell dictionaries into
-# plain word lists in a temporary folder and writes each file with make_dictionary, which uses
-# the game's own dictionary writer. See tools/README.md for the sources and the choices.
+# plain word lists in a temporary folder and writes each file with make_dictionary, which leaves
+# out the excluded words (offensive words, abbreviations, numerals) and uses the game's own
+# dictionary writer. See tools/README.md for the sources and the choices.
 #
 # Usage: tools/dictionaries/make_dictionaries.sh [BUILD_DIR]   (default: build-dict)
 set -euo pipefail

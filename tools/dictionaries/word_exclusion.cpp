@@ -112,6 +112,7 @@ std::vector<std::string> inflectedForms(std::string_view capitals, Language lang
         } else if (word.size() > 5 &&
                    (endsWith(word, "ARE") || endsWith(word, "ERE") || endsWith(word, "IRE"))) {
             addConjugation(word, forms);
+            forms.push_back(stem + "I"); // or a noun: puttaniere, puttanieri
         } else if (last == 'E') {
             forms.push_back(stem + "I");
             // -one names a person, and has a feminine: terrone, terrona.
