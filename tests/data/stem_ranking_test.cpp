@@ -40,16 +40,9 @@ TEST(StemRanking, CountsEveryFormAStemOfTheLemmaMayTake) {
 
 TEST(StemRanking, SplitsTheStemsIntoDicFilesByCount) {
     const auto counts = latinLemmaCounts(lemmes);
-    const std::string dic = "9\n"
-                            "amo/APS\n"
-                            "legionis/d\n"
-                            "legi/P\n"
-                            "lego/APS\n"
-                            "rarissimus/abc\n"
-                            "Roma/a\n"
-                            "A.\n"
-                            "# comment\n"
-                            "vir\r\n";
+    // Capitalised names, abbreviations and comments give no admissible word: left out.
+    const std::string dic =
+        "9\namo/APS\nlegionis/d\nlegi/P\nlego/APS\nrarissimus/abc\nRoma/a\nA.\n# comment\nvir\r\n";
     const auto files = splitStemsByCount(dic, counts, {1000, 700});
     ASSERT_EQ(files.size(), 3u);
     EXPECT_EQ(files[0], "2\nlegionis/d\nvir\n");
@@ -57,12 +50,18 @@ TEST(StemRanking, SplitsTheStemsIntoDicFilesByCount) {
     EXPECT_EQ(files[2], "3\nlegi/P\nlego/APS\nrarissimus/abc\n");
 }
 
+TEST(StemRanking, KeepsTheFirstSpellingOfTheLatinStems) {
+    const std::string dic = "7\n# header\namo/APS\nZeus/q\n\nabacvs/b\nzythvm/c\nabauia/a\nuir/q\n";
+    EXPECT_EQ(schoolSpellingStems(dic), "3\n# header\namo/APS\nZeus/q\n");
+    EXPECT_EQ(schoolSpellingStems("2\nab\nzona\r\nAbas\n"), "2\nab\nzona\r\n");
+    EXPECT_EQ(schoolSpellingStems(""), "0\n");
+}
+
 TEST(StemRanking, AListedWordCountsOnce) {
     const auto counts = listedWordCounts("casa\nCittà\nperché\r\n\n");
     EXPECT_EQ(counts, (std::map<std::string, long>{{"CASA", 1}, {"PERCHE", 1}}));
-    const auto files = splitStemsByCount("3\ncasa/o\nlottizzare/A\nperché\n", counts, {1});
-    EXPECT_EQ(files[0], "2\ncasa/o\nperché\n");
-    EXPECT_EQ(files[1], "1\nlottizzare/A\n");
+    EXPECT_EQ(splitStemsByCount("3\ncasa/o\nlottizzare/A\nperché\n", counts, {1}),
+              (std::vector<std::string>{"2\ncasa/o\nperché\n", "1\nlottizzare/A\n"}));
 }
 
 } // namespace

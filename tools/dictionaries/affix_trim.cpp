@@ -50,6 +50,24 @@ bool endsWith(std::string_view s, std::string_view end) {
     return s.size() >= end.size() && s.substr(s.size() - end.size()) == end;
 }
 
+// The ending as the word filter will spell it: the ligatures æ and œ as ae and oe, so that
+// "atæque" is found to be "atae" + "que".
+std::string spelt(std::string_view add) {
+    std::string out;
+    for (std::size_t i = 0; i < add.size(); ++i) {
+        if (add.substr(i, 2) == "\xC3\xA6") {
+            out += "ae";
+            ++i;
+        } else if (add.substr(i, 2) == "\xC5\x93") {
+            out += "oe";
+            ++i;
+        } else {
+            out += add[i];
+        }
+    }
+    return out;
+}
+
 bool onlyLetters(std::string_view s) {
     // Bytes from 0x80 up belong to accented letters of the UTF-8 files.
     return std::all_of(s.begin(), s.end(), [](char c) {
@@ -62,7 +80,7 @@ class Classifier {
 public:
     Classifier(const std::vector<Entry>& entries, const AffixRules& rules) : m_rules(rules) {
         for (const Entry& e : entries) {
-            m_pairs[{e.kind, e.flag}].insert({e.strip, e.add});
+            m_pairs[{e.kind, e.flag}].insert({e.strip, spelt(e.add)});
             m_triples[{e.kind, e.flag}].insert({e.strip, e.add, e.condition});
             if (e.kind == "SFX") m_allSuffixes.insert({e.strip, e.add});
             bool& pure = m_pure.try_emplace({e.kind, e.flag}, true).first->second;
@@ -87,7 +105,7 @@ private:
     }
 
     bool classHas(const Entry& e, const std::string& add) const {
-        return m_pairs.at({e.kind, e.flag}).contains({e.strip, add});
+        return m_pairs.at({e.kind, e.flag}).contains({e.strip, spelt(add)});
     }
 
     bool isEnclitic(const Entry& e) const {
@@ -111,9 +129,12 @@ private:
     }
 
     bool isContraction(const Entry& e) const {
+        const auto& triples = m_triples.at({e.kind, e.flag});
+        if (m_rules.contractedV && e.add.size() >= 2 && e.add[0] != 'i' &&
+            triples.contains({e.strip, e.add.substr(0, 1) + 'v' + e.add.substr(1), e.condition}))
+            return true;
         if (m_rules.contractedStrip.empty() || !endsWith(e.strip, m_rules.contractedStrip))
             return false;
-        const auto& triples = m_triples.at({e.kind, e.flag});
         for (const char vowel : std::string_view("ie"))
             if (triples.contains({e.strip, vowel + e.add, e.condition})) return true;
         return false;
@@ -149,6 +170,7 @@ AffixRules latinAffixRules() {
     rules.encliticAloneAfterAnyStrip = true;
     rules.fullFormMarker = "que";
     rules.contractedStrip = "i";
+    rules.contractedV = true;
     return rules;
 }
 

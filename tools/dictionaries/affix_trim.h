@@ -34,6 +34,10 @@ struct AffixRules {
     // "erunt") is a contraction the file applies to every perfect stem, fitting or not
     // (consilui gives consilurunt); it is dropped. Empty: no such rule.
     std::string contractedStrip;
+    // Latin perfects in -avi, -evi: a suffix that is another suffix of the class (same strip and
+    // condition) without the V after its first letter ("ait" beside "avit") makes non-forms
+    // (amait beside amavit); dropped. After an I the shorter form is real (audiit, audivit).
+    bool contractedV = false;
     // Flags of classes dropped whole.
     std::vector<std::string> droppedFlags;
 };

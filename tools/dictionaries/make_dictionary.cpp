@@ -1,16 +1,20 @@
 // The generator's compiled half: trims a Hunspell affix file before expansion, splits the Latin
 // stems by the corpus count of their lemma, and writes a dictionary file SLESSICO.<n> from
-// plain UTF-8 word lists with the game's own writer.
+// plain UTF-8 word lists with the game's own writer, leaving out the excluded words.
 // make_dictionaries.sh drives it; run without arguments for the usage.
+#include "core/addresses.h"
 #include "core/atomic_file.h"
 #include "dictionary/dictionary_format.h"
 #include "tools/dictionaries/affix_trim.h"
 #include "tools/dictionaries/stem_ranking.h"
+#include "tools/dictionaries/word_exclusion.h"
 #include "tools/dictionaries/word_filter.h"
 #include "tools/dictionaries/word_selection.h"
 
 #include <algorithm>
 #include <cstdio>
+#include <functional>
+#include <map>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -26,9 +30,15 @@ int usage() {
                "    writes OUT_PREFIX1.dic (stems whose count is at least the first COUNT),\n"
                "    OUT_PREFIX2.dic... and one more with the other stems; the counts come from\n"
                "    Collatinus's lemmes.la, or are 1 for each word of a plain list\n"
-               "  make_dictionary build LANGUAGE NOTICE OUT TIER...\n"
+               "  make_dictionary school-stems IN.dic OUT.dic\n"
+               "    keeps the first of the Latin dictionary's spellings, the school one\n"
+               "  make_dictionary build LANGUAGE NOTICE OUT [OPTION]... TIER...\n"
                "    LANGUAGE  1 (Italian), 2 (English) or 3 (Latin)\n"
-               "    NOTICE    the file's notice, ASCII; {count} stands for the number of words\n"
+               "    NOTICE    the description, ASCII; {count} stands for the number of words;\n"
+               "              the maker's notice with our addresses follows it\n"
+               "    --block=LIST    a plain UTF-8 list of words to leave out (slurs, obscenities)\n"
+               "    --own=FILE      our own list of \"block LANGS word\" and \"allow LANGS word\"\n"
+               "    --refused=FILE  writes the words left out, with the reason, for review\n"
                "    TIER      one or more UTF-8 word lists joined by commas; earlier tiers win\n"
                "              when a length has more words than the editor can hold\n",
                stderr);
@@ -80,8 +90,8 @@ int splitStems(const std::string& kind, const std::string& source, const std::st
     return 0;
 }
 
-// Adds the admitted words of the comma-separated lists to `words`.
-bool readTier(const std::string& files, Language language, std::vector<std::string>& words) {
+// The words of each file in a comma-separated list, one a line.
+bool forEachLine(const std::string& files, const std::function<void(std::string_view)>& take) {
     std::stringstream names(files);
     std::string name;
     while (std::getline(names, name, ',')) {
@@ -90,20 +100,35 @@ bool readTier(const std::string& files, Language language, std::vector<std::stri
             fail("cannot read " + name);
             return false;
         }
-        std::size_t lines = 0, admitted = 0;
         std::stringstream in(*text);
         std::string line;
         while (std::getline(in, line)) {
             if (!line.empty() && line.back() == '\r') line.pop_back();
-            ++lines;
-            if (auto word = admitWord(line, language)) {
-                words.push_back(std::move(*word));
-                ++admitted;
-            }
+            take(line);
         }
-        std::printf("  %s: %zu of %zu lines admitted\n", name.c_str(), admitted, lines);
     }
     return true;
+}
+
+const char* reasonText(Refusal refusal) {
+    switch (refusal) {
+    case Refusal::Listed:
+        return "listed";
+    case Refusal::NoVowel:
+        return "no vowel";
+    case Refusal::RomanNumeral:
+        return "Roman numeral";
+    case Refusal::None:
+        break;
+    }
+    return "";
+}
+
+// The description, then the maker's notice with the addresses of the program's own links.
+std::string noticeText(std::string description, std::size_t count) {
+    const std::size_t mark = description.find("{count}");
+    if (mark != std::string::npos) description.replace(mark, 7, std::to_string(count));
+    return description + " A cura di Il Griglione: " + kSitoWebTesto + ", " + kEmailAutore + ".";
 }
 
 int buildDictionary(int argc, char** argv) {
@@ -112,26 +137,67 @@ int buildDictionary(int argc, char** argv) {
     const auto language = static_cast<Language>(std::stoi(number));
     const std::string out = argv[4];
 
+    WordExclusion exclusion(language);
+    std::string refusedFile;
+    int next = 5;
+    for (; next < argc && std::string_view(argv[next]).starts_with("--"); ++next) {
+        const std::string option = argv[next];
+        const std::size_t equals = option.find('=');
+        const std::string name = option.substr(0, equals);
+        const std::string value = equals == std::string::npos ? "" : option.substr(equals + 1);
+        if (name == "--block") {
+            if (!forEachLine(value, [&](std::string_view w) { exclusion.block(w); })) return 1;
+        } else if (name == "--own") {
+            const auto text = readWholeFile(value);
+            if (!text) return fail("cannot read " + value);
+            for (const int line : exclusion.readList(*text))
+                std::fprintf(stderr, "%s:%d: not an entry\n", value.c_str(), line);
+        } else if (name == "--refused") {
+            refusedFile = value;
+        } else {
+            return usage();
+        }
+    }
+    if (next == argc) return usage();
+    std::printf("  %zu words and forms blocked\n", exclusion.blockedCount());
+
     WordSelection selection;
-    for (int i = 5; i < argc; ++i) {
+    std::map<std::string, Refusal> refused;
+    for (int i = next; i < argc; ++i) {
         std::vector<std::string> words;
-        if (!readTier(argv[i], language, words)) return 1;
+        std::size_t lines = 0;
+        const bool read = forEachLine(argv[i], [&](std::string_view line) {
+            ++lines;
+            auto word = admitWord(line, language);
+            if (!word) return;
+            if (const Refusal why = exclusion.refusal(*word); why != Refusal::None)
+                refused.emplace(std::move(*word), why);
+            else
+                words.push_back(std::move(*word));
+        });
+        if (!read) return 1;
         const WordLists before = selection.lists();
         const std::size_t taken = selection.addTier(words);
         const WordLists after = selection.lists();
-        std::printf("  tier %d: %zu new words taken; by length:", i - 4, taken);
+        std::printf("  tier %d: %zu of %zu lines admitted, %zu new words taken; by length:",
+                    i - next + 1, words.size(), lines, taken);
         for (std::size_t k = 0; k < after.size(); ++k)
             std::printf(" %zu", after[k].size() - before[k].size());
         std::printf("\n");
     }
     const WordLists lists = selection.lists();
+    std::printf("  %zu words refused\n", refused.size());
+    if (!refusedFile.empty()) {
+        std::string text;
+        for (const auto& [word, why] : refused)
+            text += word + '\t' + reasonText(why) + '\n';
+        if (!writeFileAtomically(refusedFile, text)) return fail("cannot write " + refusedFile);
+    }
 
-    std::string notice = argv[3];
-    const std::size_t mark = notice.find("{count}");
-    if (mark != std::string::npos) notice.replace(mark, 7, std::to_string(selection.size()));
+    const std::string notice = noticeText(argv[3], selection.size());
     if (notice.size() > static_cast<std::size_t>(kNoticeLength))
         return fail("the notice has " + std::to_string(notice.size()) + " characters, more than " +
-                    std::to_string(kNoticeLength));
+                    std::to_string(kNoticeLength) + ": " + notice);
     if (std::any_of(notice.begin(), notice.end(),
                     [](char c) { return c < ' ' || static_cast<unsigned char>(c) > 126; }))
         return fail("the notice must be printable ASCII");
@@ -148,6 +214,16 @@ int buildDictionary(int argc, char** argv) {
     return 0;
 }
 
+int schoolStems(const std::string& in, const std::string& out) {
+    const auto text = readWholeFile(in);
+    if (!text) return fail("cannot read " + in);
+    const std::string stems = schoolSpellingStems(*text);
+    if (!writeFileAtomically(out, stems)) return fail("cannot write " + out);
+    std::printf("%s: %zu stem lines kept\n", out.c_str(),
+                static_cast<std::size_t>(std::count(stems.begin(), stems.end(), '\n')));
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -155,6 +231,7 @@ int main(int argc, char** argv) {
         return trimAffixFile(argv[2], argv[3], argv[4]);
     if (argc == 7 && std::string(argv[1]) == "split-stems")
         return splitStems(argv[2], argv[3], argv[4], argv[5], argv[6]);
+    if (argc == 4 && std::string(argv[1]) == "school-stems") return schoolStems(argv[2], argv[3]);
     if (argc >= 6 && std::string(argv[1]) == "build") return buildDictionary(argc, argv);
     return usage();
 }

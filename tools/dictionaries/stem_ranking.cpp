@@ -97,3 +97,23 @@ std::vector<std::string> splitStemsByCount(std::string_view dic,
 }
 
 } // namespace griglione
+
+namespace griglione {
+
+std::string schoolSpellingStems(std::string_view dic) {
+    const auto lines = split(dic, '\n');
+    std::string kept;
+    char previous = '\0';
+    for (std::size_t i = 1; i < lines.size(); ++i) {
+        const std::string_view line = lines[i];
+        if (withoutLineEnd(line).empty()) continue;
+        const char first = line.empty() ? '\0' : static_cast<char>(line[0] | 0x20); // lower case
+        if (first == 'a' && previous == 'z') break;
+        if (first >= 'a' && first <= 'z') previous = first;
+        kept += line;
+        kept += '\n';
+    }
+    return std::to_string(std::count(kept.begin(), kept.end(), '\n')) + '\n' + kept;
+}
+
+} // namespace griglione

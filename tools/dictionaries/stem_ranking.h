@@ -30,4 +30,10 @@ std::vector<std::string> splitStemsByCount(std::string_view dic,
                                            const std::map<std::string, long>& counts,
                                            const std::vector<long>& thresholds);
 
+// The Latin dictionary lists its stems three times: in the school spelling (SERVUS, TUUS), then
+// the twins that write every U as V (SERVVS, TVVS), then those that write every V as U (SERUUS,
+// SILUA). Keeps the first list: its lines up to the first stem beginning with A after one
+// beginning with Z (either case); the first line becomes the number of lines kept.
+std::string schoolSpellingStems(std::string_view dic);
+
 } // namespace griglione
