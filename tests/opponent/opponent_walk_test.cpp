@@ -123,7 +123,7 @@ TEST_F(OpponentWalkTest, ADrawPastTheTwentySixthForOneLetterEndsTheTickWhenItLan
     } cases[] = {
         {"25 on a used die, then the free one", 0, 25, 0, true},
         {"26 on a used die, then the free one", 0, 26, 0, false},
-        {"26 off the board count as well", 0, 0, 26, false},
+        {"27 off the board count too but end nothing", 0, 0, 27, false},
         {"the count restarts for every letter", 20, 25, 0, true},
     };
     for (const auto& c : cases) {
