@@ -81,9 +81,6 @@ TEST_F(SubmissionTest, LengthMessagesKeepTheTracedWord) {
          "orizzontalmente, verticalmente e diagonalmente, la stessa lettera non può essere usata "
          "più di una volta per comporre la parola. Le parole già trovate (anche dal PC) non "
          "possono ovviamente essere riutilizzate."},
-        {"A", "SHOOT1.WAV", "Parola troppo corta!",
-         "Attenzione: Devi inserire una parola in Italiano che deve essere composta almeno da 3 "
-         "caratteri."},
         {"OR", "SHOOT1.WAV", "Parola troppo corta!",
          "Attenzione: Devi inserire una parola in Italiano che deve essere composta almeno da 3 "
          "caratteri."},
@@ -104,7 +101,7 @@ TEST_F(SubmissionTest, LengthMessagesKeepTheTracedWord) {
 
 TEST_F(SubmissionTest, AWordAlreadyFoundByEitherSideIsClearedWithoutPoints) {
     state.paroleGiocatore = {"casa"};
-    state.paroleCPU = {"mare"};
+    state.paroleCPU = {"mare", "casa"}; // found by both: the player's own message
     trace("CASA");
     submission.inviaParola();
     EXPECT_EQ(played(), (std::vector<std::string>{"ROCHAN3.WAV", "COLLAPSE.WAV"}));
