@@ -63,9 +63,10 @@ TEST_F(SubmissionTest, AcceptedWordScoresAndJoinsThePlayersList) {
     EXPECT_EQ(state.puntiGiocatore, 320);
     EXPECT_EQ(state.paroleGiocatore, std::vector<std::string>{"casa"});
     EXPECT_EQ(state.parolaComposta, "");
-    trace("ERA");
+    trace("ABCDEFGHIJKLM"); // judged and listed by its first ten letters
     submission.inviaParola();
-    EXPECT_EQ(state.puntiGiocatore, 500);
+    EXPECT_EQ(state.puntiGiocatore, 2320);
+    EXPECT_EQ(state.paroleGiocatore, (std::vector<std::string>{"casa", "abcdefghij"}));
     EXPECT_EQ(view.busy, (std::vector<bool>{true, false, true, false}));
 }
 
@@ -118,13 +119,6 @@ TEST_F(SubmissionTest, AWordAlreadyFoundByEitherSideIsClearedWithoutPoints) {
                          "non assegnato"}));
     EXPECT_EQ(state.puntiGiocatore, 0);
     EXPECT_EQ(state.paroleGiocatore.size(), 1u);
-}
-
-TEST_F(SubmissionTest, LongWordsAreJudgedByTheirFirstTenLetters) {
-    trace("ABCDEFGHIJKLM");
-    submission.inviaParola();
-    EXPECT_EQ(state.puntiGiocatore, 2000);
-    EXPECT_EQ(state.paroleGiocatore, std::vector<std::string>{"abcdefghij"});
 }
 
 TEST_F(SubmissionTest, TheConfirmationsThreeAnswers) {

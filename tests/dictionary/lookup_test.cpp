@@ -124,9 +124,7 @@ TEST(DamagedDictionary, AnswersNotFoundWithoutCrashingOrHanging) {
     const std::vector<std::pair<const char*, std::string>> damages = {
         {"index past the end", std::string(file).replace(216, 16, "     446 9999999")},
         {"truncated record", file.substr(0, 445)},
-        {"garbage fields", std::string(file).replace(216, 16, "ABCDEFGHIJKLMNOP")},
         {"empty file", ""},
-        {"header only", file.substr(0, 100)},
     };
     for (const auto& [what, bytes] : damages) {
         SCOPED_TRACE(what);
