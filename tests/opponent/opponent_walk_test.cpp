@@ -219,18 +219,5 @@ TEST_F(OpponentWalkTest, ATickCalledFromInsideATickReturnsAtOnce) {
     EXPECT_EQ(lookups.size(), 8u);
 }
 
-TEST_F(OpponentWalkTest, ABoardBlankedDuringTheYieldEndsTheWalkWithoutReadingPastANameEnd) {
-    yieldAction = [&] { // a new match, its pictures not loaded yet
-        state.immagineCella.fill("");
-        state.immagineCella[4] = "zarMo";
-    };
-    scriptMareaWalk();
-    random.numbers.resize(5); // die 0, then four steps right
-    walk.tick();
-    EXPECT_EQ(lookups, (std::vector<std::string>{"MAR", "MARE"}));
-    EXPECT_EQ(walk.parolaCPU(), "MARE");
-    EXPECT_TRUE(random.numbers.empty());
-}
-
 } // namespace
 } // namespace griglione
