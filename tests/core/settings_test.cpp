@@ -13,50 +13,33 @@ Settings read(std::string_view file) {
     return s;
 }
 
-struct TimeCase {
-    const char* line;
-    int seconds;
-    int item;
-};
-
-TEST(SettingsFile, TimeCodesKeepTheirOffsetOfThirty) {
-    const TimeCase cases[] = {
-        {"Tempo=30", 60, 0},   {"Tempo=60", 90, 1},     {"Tempo=90", 120, 2},
-        {"Tempo=270", 300, 3}, {"Tempo=90 ", 90, 1},    {"Tempo=  270", 300, 3},
-        {"Tempo=120", 90, 1},  {"Tempo=", 90, 1},       {"Tempo=abc", 90, 1},
-        {"Tempo=090", 90, 1},  {"xxTempo=30yy", 90, 1}, {"Giocatore1=Tempo=30", 90, 1},
+TEST(SettingsFile, TimesAndLevelsCheckTheirItemOrTheSecondOne) {
+    enum Key { Time, Level };
+    const struct {
+        const char* line;
+        Key key;
+        int value; // tempoPartita, or the interval of Timer2
+        int item;
+    } cases[] = {
+        {"Tempo=30", Time, 60, 0},        {"Tempo=60", Time, 90, 1},
+        {"Tempo=90", Time, 120, 2},       {"Tempo=270", Time, 300, 3},
+        {"Tempo=90 ", Time, 90, 1},       {"Tempo=  270", Time, 300, 3},
+        {"Tempo=120", Time, 90, 1},       {"Tempo=", Time, 90, 1},
+        {"Tempo=abc", Time, 90, 1},       {"Tempo=090", Time, 90, 1},
+        {"xxTempo=30yy", Time, 90, 1},    {"Giocatore1=Tempo=30", Time, 90, 1},
+        {"Livello=100", Level, 100, 3},   {"Livello=300", Level, 300, 2},
+        {"Livello=1000", Level, 1000, 0}, {"Livello=750", Level, 500, 1},
+        {"Livello=", Level, 500, 1},      {"Livello= 300", Level, 300, 2},
+        {"Livello=99.5", Level, 100, 3},  {"Livello=1000abc", Level, 1000, 0},
+        {"Livello=1e99", Level, 500, 1},  {"Livello=99999999999999", Level, 500, 1},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.line);
         const Settings s = read(c.line);
-        EXPECT_EQ(s.tempoPartita, c.seconds);
         std::array<bool, 4> checked{};
         checked[c.item] = true;
-        EXPECT_EQ(s.timeChecked, checked);
-    }
-}
-
-struct LevelCase {
-    const char* line;
-    int interval;
-    int item;
-};
-
-TEST(SettingsFile, LevelsMapToTheirIntervalOrToTheBeginner) {
-    const LevelCase cases[] = {
-        {"Livello=100", 100, 3},   {"Livello=300", 300, 2},
-        {"Livello=1000", 1000, 0}, {"Livello=750", 500, 1},
-        {"Livello=", 500, 1},      {"Livello= 300", 300, 2},
-        {"Livello=99.5", 100, 3},  {"Livello=1000abc", 1000, 0},
-        {"Livello=1e99", 500, 1},  {"Livello=99999999999999", 500, 1},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.line);
-        const Settings s = read(c.line);
-        EXPECT_EQ(s.timer2Interval, c.interval);
-        std::array<bool, 4> checked{};
-        checked[c.item] = true;
-        EXPECT_EQ(s.levelChecked, checked);
+        EXPECT_EQ(c.key == Time ? s.tempoPartita : s.timer2Interval, c.value);
+        EXPECT_EQ(c.key == Time ? s.timeChecked : s.levelChecked, checked);
     }
 }
 
@@ -66,16 +49,13 @@ TEST(SettingsFile, EarlierLevelChecksStayCheckedAndTheLastIntervalWins) {
     EXPECT_EQ(s.levelChecked, (std::array<bool, 4>{true, false, false, true}));
 }
 
-struct LineCase {
-    const char* file;
-    bool sound;
-    std::string name;
-    int spessore;
-    int dizionario;
-};
-
 TEST(SettingsFile, KeysAreCaseSensitiveAndFoundAnywhere) {
-    const LineCase cases[] = {
+    const struct {
+        const char* file;
+        bool sound;
+        std::string name;
+        int spessore, dizionario;
+    } cases[] = {
         {"Suono=si", true, "BRIVO", 7, 1},
         {"Suono=NO", false, "BRIVO", 7, 1},
         {"Suono=SI ", false, "BRIVO", 7, 1},
