@@ -64,6 +64,8 @@ TEST_F(TracingTest, RefusedPressesKeepTheWordAndTheLastDie) {
     EXPECT_FALSE(messages.modal[0]);
     EXPECT_FALSE(state.cellaUsata[5]);
     EXPECT_EQ(state.ultimaCella, 4);
+    for (int far : {14, 2}) // two rows down, two columns left
+        EXPECT_EQ(board.press(far, kLeftButton, true), PressResult::NotAdjacent) << far;
     EXPECT_EQ(board.press(4, kLeftButton, true), PressResult::Refused);
     EXPECT_EQ(sounds.played.back(), "beep");
     EXPECT_EQ(board.press(9, kLeftButton, true), PressResult::Selected); // judged against 4
