@@ -351,8 +351,13 @@ private slots:
         const auto aeBoard = window->state().immagineCella;
         auto* timer1 = child<QTimer>("Timer1");
         auto* timer2 = child<QTimer>("Timer2");
-        timer1->setInterval(15);
+        // The clock waits for the opponent to find both words, and the opponent then rests, so that
+        // no walk is halfway through a yield when the time runs out.
+        timer1->setInterval(60'000);
         timer2->setInterval(1);
+        QTRY_COMPARE_WITH_TIMEOUT(window->state().puntiCPU, 360, 10000);
+        timer2->stop();
+        timer1->setInterval(1);
         int shown = 0, nestedTicks = 0, opponentRan = 0;
         QString result, history, cpuName, wins;
         QStringList historyAfterTwo;
@@ -401,7 +406,7 @@ private slots:
         QCOMPARE(child<QListWidget>("List2")->count(), 0);
 
         window->state().tempoPartita = 2;
-        timer1->setInterval(15);
+        timer1->setInterval(1);
         whenShown("Form2", onResult, 2000);
         QTRY_COMPARE_WITH_TIMEOUT(shown, 2, 10000);
         QCOMPARE(opponentRan, 0);
