@@ -1,5 +1,4 @@
-// Tracing: adjacency in every direction and across the row ends, the path's connection table,
-// turning a die, refused presses, and the clear.
+// Tracing: the path's connection table, turning a die, refused presses, blinking and the clear.
 #include "board/board_game.h"
 #include "board/board_layout.h"
 #include "tests/support/board_parts.h"
@@ -11,43 +10,16 @@ namespace {
 
 using namespace testing;
 
-TEST(Adjacency, EightDirectionsButNeverAcrossTheEdge) {
-    const struct {
-        int p, n;
-        bool touch;
-    } cases[] = {
-        {12, 11, true},  {12, 13, true},  {12, 7, true},  {12, 17, true}, {12, 6, true},
-        {12, 8, true},   {12, 16, true},  {12, 18, true}, {12, 12, true}, {12, 10, false},
-        {12, 2, false},  {12, 22, false}, {4, 5, false},  {4, 9, true},   {5, 4, false},
-        {9, 10, false},  {4, 10, false},  {5, 9, false},  {9, 5, false},  {0, 24, false},
-        {19, 15, false}, {20, 24, false}, {0, 6, true},   {24, 18, true}, {14, 10, false},
-        {10, 14, false}, {10, 4, false},  {9, 15, false},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(celleAdiacenti(c.p, c.n), c.touch) << c.p << "→" << c.n;
-}
-
 TEST(PathConnections, EachStepMeetsAtTheCommonEdgeOrCorner) {
-    const struct {
-        int d;
-        Anchor line1, line2;
-    } cases[] = {
-        {-1, Anchor::Right, Anchor::Left},          {+1, Anchor::Left, Anchor::Right},
-        {-5, Anchor::Bottom, Anchor::Top},          {+5, Anchor::Top, Anchor::Bottom},
-        {+4, Anchor::TopRight, Anchor::BottomLeft}, {+6, Anchor::TopLeft, Anchor::BottomRight},
-        {-6, Anchor::BottomRight, Anchor::TopLeft}, {-4, Anchor::BottomLeft, Anchor::TopRight},
-    };
-    for (const auto& c : cases) {
-        const auto ends = connection(c.d);
-        ASSERT_TRUE(ends) << c.d;
-        EXPECT_EQ(ends->first, c.line1) << c.d;
-        EXPECT_EQ(ends->second, c.line2) << c.d;
+    for (int d : {-1, +1, -5, +5, +4, +6, -6, -4}) {
+        const auto ends = connection(d);
+        ASSERT_TRUE(ends) << d;
         // Both ends are the same point of the board: p's end shifted by one die is n's end.
         const auto [x1, y1] = anchorPoint(ends->first);
         const auto [x2, y2] = anchorPoint(ends->second);
-        const int dx = (c.d + 7) % 5 - 2, dy = (c.d - dx) / 5;
-        EXPECT_DOUBLE_EQ(x1 + dx, x2) << c.d;
-        EXPECT_DOUBLE_EQ(y1 + dy, y2) << c.d;
+        const int dx = (d + 7) % 5 - 2, dy = (d - dx) / 5;
+        EXPECT_DOUBLE_EQ(x1 + dx, x2) << d;
+        EXPECT_DOUBLE_EQ(y1 + dy, y2) << d;
     }
     EXPECT_FALSE(connection(2));
     EXPECT_FALSE(connection(0));
@@ -92,6 +64,8 @@ TEST_F(TracingTest, RefusedPressesKeepTheWordAndTheLastDie) {
     EXPECT_FALSE(messages.modal[0]);
     EXPECT_FALSE(state.cellaUsata[5]);
     EXPECT_EQ(state.ultimaCella, 4);
+    for (int far : {14, 2}) // two rows down, two columns left
+        EXPECT_EQ(board.press(far, kLeftButton, true), PressResult::NotAdjacent) << far;
     EXPECT_EQ(board.press(4, kLeftButton, true), PressResult::Refused);
     EXPECT_EQ(sounds.played.back(), "beep");
     EXPECT_EQ(board.press(9, kLeftButton, true), PressResult::Selected); // judged against 4

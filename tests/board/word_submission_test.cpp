@@ -63,9 +63,10 @@ TEST_F(SubmissionTest, AcceptedWordScoresAndJoinsThePlayersList) {
     EXPECT_EQ(state.puntiGiocatore, 320);
     EXPECT_EQ(state.paroleGiocatore, std::vector<std::string>{"casa"});
     EXPECT_EQ(state.parolaComposta, "");
-    trace("ERA");
+    trace("ABCDEFGHIJKLM"); // judged and listed by its first ten letters
     submission.inviaParola();
-    EXPECT_EQ(state.puntiGiocatore, 500);
+    EXPECT_EQ(state.puntiGiocatore, 2320);
+    EXPECT_EQ(state.paroleGiocatore, (std::vector<std::string>{"casa", "abcdefghij"}));
     EXPECT_EQ(view.busy, (std::vector<bool>{true, false, true, false}));
 }
 
@@ -81,9 +82,6 @@ TEST_F(SubmissionTest, LengthMessagesKeepTheTracedWord) {
          "orizzontalmente, verticalmente e diagonalmente, la stessa lettera non può essere usata "
          "più di una volta per comporre la parola. Le parole già trovate (anche dal PC) non "
          "possono ovviamente essere riutilizzate."},
-        {"A", "SHOOT1.WAV", "Parola troppo corta!",
-         "Attenzione: Devi inserire una parola in Italiano che deve essere composta almeno da 3 "
-         "caratteri."},
         {"OR", "SHOOT1.WAV", "Parola troppo corta!",
          "Attenzione: Devi inserire una parola in Italiano che deve essere composta almeno da 3 "
          "caratteri."},
@@ -104,7 +102,7 @@ TEST_F(SubmissionTest, LengthMessagesKeepTheTracedWord) {
 
 TEST_F(SubmissionTest, AWordAlreadyFoundByEitherSideIsClearedWithoutPoints) {
     state.paroleGiocatore = {"casa"};
-    state.paroleCPU = {"mare"};
+    state.paroleCPU = {"mare", "casa"}; // found by both: the player's own message
     trace("CASA");
     submission.inviaParola();
     EXPECT_EQ(played(), (std::vector<std::string>{"ROCHAN3.WAV", "COLLAPSE.WAV"}));
@@ -121,13 +119,6 @@ TEST_F(SubmissionTest, AWordAlreadyFoundByEitherSideIsClearedWithoutPoints) {
                          "non assegnato"}));
     EXPECT_EQ(state.puntiGiocatore, 0);
     EXPECT_EQ(state.paroleGiocatore.size(), 1u);
-}
-
-TEST_F(SubmissionTest, LongWordsAreJudgedByTheirFirstTenLetters) {
-    trace("ABCDEFGHIJKLM");
-    submission.inviaParola();
-    EXPECT_EQ(state.puntiGiocatore, 2000);
-    EXPECT_EQ(state.paroleGiocatore, std::vector<std::string>{"abcdefghij"});
 }
 
 TEST_F(SubmissionTest, TheConfirmationsThreeAnswers) {

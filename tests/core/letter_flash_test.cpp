@@ -27,12 +27,5 @@ TEST(LetterFlash, StepsThroughLettersAndColours) {
     }
 }
 
-TEST(LetterFlash, ConsoleColours) {
-    EXPECT_EQ(consoleColour(1), (Rgb{0, 0, 128}));
-    EXPECT_EQ(consoleColour(14), (Rgb{255, 255, 0}));
-    EXPECT_EQ(consoleColour(15), (Rgb{255, 255, 255}));
-    EXPECT_EQ(consoleColour(7), (Rgb{192, 192, 192}));
-}
-
 } // namespace
 } // namespace griglione

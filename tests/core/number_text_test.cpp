@@ -6,18 +6,6 @@
 namespace griglione {
 namespace {
 
-TEST(NumberText, SignPlaceAndFileForm) {
-    EXPECT_EQ(numberText(7), " 7");
-    EXPECT_EQ(numberText(0), " 0");
-    EXPECT_EQ(numberText(-7), "-7");
-    EXPECT_EQ(numberField(7), " 7 ");
-    EXPECT_EQ(numberField(-12), "-12 ");
-    EXPECT_EQ(rightAligned(numberText(1), 3), "  1");
-    EXPECT_EQ(rightAligned(numberText(123), 3), "123");
-    EXPECT_EQ(rightAligned(numberText(12400), 5), "12400");
-    EXPECT_EQ(rightAligned(numberText(0), 5), "    0");
-}
-
 TEST(NumberText, RoundsHalvesToEven) {
     const std::pair<double, int> cases[] = {{0.5, 0},   {1.5, 2},    {2.5, 2},    {-0.5, 0},
                                             {-1.5, -2}, {2.4999, 2}, {2.5001, 3}, {7, 7}};

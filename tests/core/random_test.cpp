@@ -32,13 +32,5 @@ TEST(MixingRandom, DrawsStayInRangeAndSpreadOverIt) {
         EXPECT_NEAR(count, 1000, 150);
 }
 
-TEST(MixingRandom, ReplaysFromTheSameState) {
-    MixingRandom a(7), b(7);
-    a.reseed(1.5);
-    b.reseed(1.5);
-    for (int i = 0; i < 5; ++i)
-        EXPECT_EQ(a.next(), b.next());
-}
-
 } // namespace
 } // namespace griglione

@@ -110,49 +110,32 @@ TEST_F(LookupTest, AnOpponentLookupInsideAScanYieldUsesItsOwnSlot) {
     EXPECT_EQ(inner, "SI");
 }
 
-TEST(DamagedDictionary, AnswersNotFoundWithoutCrashingOrHanging) {
-    TempFolder folder;
-    GameState state;
-    OpenFileTable files;
-    FakeAlerts alerts;
-    Dictionary dictionary(
-        state, files, alerts, [] {}, folder.path());
+TEST_F(LookupTest, ADamagedDictionaryAnswersNotFoundWithoutCrashingOrHanging) {
     WordLists words;
     words[1] = {"CASA", "MARE"};
     std::string file = buildDictionaryFile("", words);
-
-    const std::vector<std::pair<const char*, std::string>> damages = {
+    const std::pair<const char*, std::string> damages[] = {
         {"index past the end", std::string(file).replace(216, 16, "     446 9999999")},
         {"truncated record", file.substr(0, 445)},
-        {"garbage fields", std::string(file).replace(216, 16, "ABCDEFGHIJKLMNOP")},
         {"empty file", ""},
-        {"header only", file.substr(0, 100)},
     };
     for (const auto& [what, bytes] : damages) {
         SCOPED_TRACE(what);
         folder.write("SLESSICO.1", bytes);
         dictionary.prendidiz();
         EXPECT_EQ(dictionary.verificaParola("ZZZZ"), "NO");
-        EXPECT_EQ(dictionary.cercaParola("ZZZZ"), "NO");
         EXPECT_EQ(dictionary.cercaParola("AAAA"), "NO");
     }
 }
 
-TEST(PersonalVocabulary, AppendsLinesAndCreatesTheFile) {
-    TempFolder folder;
-    const auto file = folder.path() / personalVocabularyFileName(1);
-    ASSERT_TRUE(appendToPersonalVocabulary(file, "CASA"));
-    ASSERT_TRUE(appendToPersonalVocabulary(file, "MARE"));
-    EXPECT_EQ(folder.read("ZarmPriv.1"), "CASA\r\nMARE\r\n");
-    folder.write("ZarmPriv.1", "ZEBRA"); // last line without its line end
-    ASSERT_TRUE(appendToPersonalVocabulary(file, "GATTO"));
+TEST_F(LookupTest, AWordIsAppendedOnItsOwnLineAfterALastLineWithoutItsEnd) {
+    folder.write("ZarmPriv.1", "ZEBRA");
+    ASSERT_TRUE(appendToPersonalVocabulary(folder.path() / personalVocabularyFileName(1), "GATTO"));
     EXPECT_EQ(folder.read("ZarmPriv.1"), "ZEBRA\r\nGATTO\r\n");
     EXPECT_EQ(readPersonalVocabulary(folder.path() / "missing"), std::vector<std::string>{});
 }
 
-TEST(RulesText, ReadsOnceWithCrLfAndReportsAMissingFile) {
-    TempFolder folder;
-    FakeAlerts alerts;
+TEST_F(LookupTest, TheRulesAreReadOnceWithCrLfAndAMissingFileIsReported) {
     RulesText rules(folder.path());
     EXPECT_EQ(rules.text(alerts), "");
     ASSERT_EQ(alerts.shown.size(), 1u);

@@ -1,5 +1,6 @@
-// The main window in a temporary folder: its start-up state, a word played with real clicks, the
-// options menus, and a whole short match against the fastest opponent.
+// The main window in a temporary folder: its start-up state, the announcement and F2, words played
+// with real clicks and keys, the confirmation, the options menus and the line width as drawn, and
+// two short matches against the fastest opponent with the end-of-match window between them.
 #include "board/board_layout.h"
 #include "core/mixing_random.h"
 #include "dictionary/dictionary_format.h"
@@ -8,6 +9,7 @@
 #include "ui/end_of_match_window.h"
 #include "ui/main_window.h"
 #include "ui/message_window.h"
+#include "ui/time_bar.h"
 
 #include <QAction>
 #include <QApplication>
@@ -59,6 +61,22 @@ class MainWindowTest : public QObject {
     MixingRandom random{99};
     int terminated = 0;
     std::unique_ptr<MainWindow> window;
+    // Answers every modal message (the match announcement) as the player would, noting it.
+    QTimer answerer;
+    int announcements = 0;
+    QString announced;
+    bool clockRanDuringAnnouncement = false;
+
+    void answerAnnouncements() {
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (w->objectName() == "Form8" && w->isVisible() && w->isModal()) {
+                ++announcements;
+                announced =
+                    w->windowTitle() + "|" + w->findChild<QTextEdit*>("Text1")->toPlainText();
+                clockRanDuringAnnouncement |= child<QTimer>("Timer1")->isActive();
+                clickButton(w, "Command3d1");
+            }
+    }
 
     void writeDictionary() {
         WordLists words;
@@ -86,6 +104,23 @@ class MainWindowTest : public QObject {
     }
     // Starts a match through the menu, with no announcement.
     void newMatch() { action("menuNuovo")->trigger(); }
+    // The thickness of the traced line from die 0 to die 1, measured across it in die 0.
+    int drawnLineWidth() {
+        auto* overlay = child<QWidget>("path");
+        QImage image(overlay->size(), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        overlay->render(&image);
+        int rows = 0;
+        for (int y = 0; y < image.height(); ++y)
+            rows += qRed(image.pixel(48, y)) < 64 && qBlue(image.pixel(48, y)) > 64;
+        return rows;
+    }
+
+public:
+    MainWindowTest() {
+        answerer.setInterval(5);
+        connect(&answerer, &QTimer::timeout, this, [this] { answerAnnouncements(); });
+    }
 
 private slots:
     void init() {
@@ -94,15 +129,19 @@ private slots:
         sounds.played.clear();
         alerts.shown.clear();
         terminated = 0;
+        announcements = 0;
+        clockRanDuringAnnouncement = false;
+        answerer.start();
     }
     void cleanup() {
+        answerer.stop();
         window.reset();
         folder.reset();
     }
 
     void startsWaitingOnABlankBoardWithTheStoredSettings() {
         folder->write("ZARMOLO.INI", "Livello=300\r\nSuono=NO\r\nTempo=30\r\nGiocatore1=anna\r\n"
-                                     "SpessoreLinea= 13 \r\nDizionario= 2 \r\n");
+                                     "Dizionario= 2 \r\n");
         open();
         QVERIFY(!child<QTimer>("Timer1")->isActive());
         QVERIFY(!child<QTimer>("Timer2")->isActive());
@@ -113,7 +152,6 @@ private slots:
         QVERIFY(!action("MenuBir")->isChecked());
         QVERIFY(!action("MenuSuono")->isChecked());
         QVERIFY(action("menu30s")->isChecked());
-        QVERIFY(action("menuL3")->isChecked());
         QVERIFY(action("Menuing")->isChecked());
         QVERIFY(!action("Menuita")->isChecked());
         QCOMPARE(child<QLineEdit>("Text1")->text(), QString("ANNA"));
@@ -139,39 +177,42 @@ private slots:
                              "SpessoreLinea= 1 \r\nDizionario= 1 \r\n"));
     }
 
-    void aPressOnTheBlankBoardAnnouncesTheMatch() {
+    void aPressOnTheBlankBoardAnnouncesTheMatchAndF2StartsOneWithout() {
         open();
-        QString caption, body;
-        whenShown("Form8", [&](QWidget* w) {
-            caption = w->windowTitle();
-            body = w->findChild<QTextEdit*>("Text1")->toPlainText();
-            QVERIFY(!window->findChild<QTimer*>("Timer1")->isActive());
-            clickButton(w, "Command3d1");
-        });
         press(7, Qt::RightButton);
-        QCOMPARE(caption, QString("Il Griglione - Inizio partita"));
-        QVERIFY(
-            body.startsWith("Si inizia una nuova partita di 120 secondi.\nIl dizionario usato"));
+        QCOMPARE(announcements, 1);
+        QVERIFY(announced.startsWith("Il Griglione - Inizio partita|Si inizia una nuova partita di "
+                                     "120 secondi.\nIl dizionario usato"));
+        QVERIFY(!clockRanDuringAnnouncement);
         QVERIFY(child<QTimer>("Timer1")->isActive());
         QVERIFY(child<QTimer>("Timer2")->isActive());
         QVERIFY(!tavolaVuota(window->state()));
         QCOMPARE(window->state().parolaComposta, std::string());
+        const auto board = window->state().immagineCella;
+        QApplication::setActiveWindow(window.get());
+        QTest::keyClick(window.get(), Qt::Key_F2);
+        QCOMPARE(announcements, 1);
+        QVERIFY(window->state().immagineCella != board);
+        QVERIFY(child<QTimer>("Timer1")->isActive());
     }
 
     void playsARealWordWithClicksAndEnter() {
         open();
         newMatch();
         child<QTimer>("Timer2")->stop(); // the opponent stays out of this one
-        setBoard("CASAXXXXXXXXXXXXXXXXXXXXX");
+        setBoard("CASAXMAREXXXXXXXXXXXXXXXX");
         for (int n : {0, 1, 2, 3})
             press(n);
         QCOMPARE(child<QLabel>("Label1")->text(), QString("CASA"));
         QTest::keyClick(child<DieCell>("Picture1_3"), Qt::Key_Return);
-        QCOMPARE(child<QLabel>("Label10")->text(), QString("320"));
+        for (int n : {5, 6, 7, 8})
+            press(n);
+        QTest::keyClick(window.get(), Qt::Key_Return); // Enter on the window, not on a die
+        QCOMPARE(child<QLabel>("Label10")->text(), QString("640"));
         auto* list = child<QListWidget>("List1");
-        QCOMPARE(list->count(), 1);
+        QCOMPARE(list->count(), 2);
         QCOMPARE(list->item(0)->text(), QString("casa"));
-        QCOMPARE(list->currentRow(), 0);
+        QCOMPARE(list->currentRow(), 1);
         MessageWindow* message = window->messages().window();
         QVERIFY(message && message->isVisible());
         QCOMPARE(message->windowTitle(), QString("Il Griglione - Complimenti, parola accettata!"));
@@ -210,6 +251,18 @@ private slots:
         QVERIFY(child<QTimer>("Timer1")->isActive());
         QCOMPARE(folder->read("ZarmPriv.1"), std::string("ZEBRA\r\n"));
         QCOMPARE(child<QLabel>("Label10")->text(), QString("500"));
+        // Closed by its frame, the window answers "do not add", whatever option is chosen.
+        for (int n : {0, 1, 2})
+            press(n);
+        whenShown("Form6", [&](QWidget* w) {
+            w->findChild<QRadioButton*>("Option1")->setChecked(true);
+            w->close();
+        });
+        clickButton(window.get(), "Command2");
+        QCOMPARE(window->state().rispostaConferma, 3);
+        QCOMPARE(folder->read("ZarmPriv.1"), std::string("ZEBRA\r\n"));
+        QCOMPARE(child<QLabel>("Label10")->text(), QString("500"));
+        QVERIFY(child<QTimer>("Timer1")->isActive());
     }
 
     void optionsAreStoredAndLengthRestartsTheMatch() {
@@ -221,12 +274,6 @@ private slots:
         QCOMPARE(folder->read("ZARMOLO.INI"),
                  std::string("Livello=100\r\nSuono=NO\r\nTempo=90\r\nGiocatore1=BRIVO\r\n"
                              "SpessoreLinea= 7 \r\nDizionario= 1 \r\n"));
-        int announcements = 0;
-        std::function<void(QWidget*)> confirm = [&](QWidget* w) {
-            ++announcements;
-            clickButton(w, "Command3d1");
-        };
-        whenShown("Form8", confirm);
         action("Menu300s")->trigger();
         QCOMPARE(announcements, 1);
         QVERIFY(child<QTimer>("Timer1")->isActive());
@@ -236,11 +283,37 @@ private slots:
         action("Menuita")->trigger();
         QVERIFY(action("Menuita")->isChecked());
         QCOMPARE(announcements, 1);
-        whenShown("Form8", confirm);
         action("Menuing")->trigger();
         QCOMPARE(announcements, 2);
         QCOMPARE(window->windowTitle(), QString("Il Griglione - Dizionario English"));
         QVERIFY(folder->read("ZARMOLO.INI").find("Dizionario= 2 \r\n") != std::string::npos);
+    }
+
+    void theLineWidthIsReadMappedDrawnAndStored_data() {
+        QTest::addColumn<QByteArray>("stored");
+        QTest::addColumn<QString>("item");
+        QTest::addColumn<int>("pixels");
+        QTest::addColumn<QByteArray>("written");
+        QTest::newRow("5 is taken as 7") << QByteArray("5") << "menuL2" << 12 << QByteArray(" 7 ");
+        QTest::newRow("13") << QByteArray(" 13 ") << "menuL3" << 18 << QByteArray(" 13 ");
+        QTest::newRow("1") << QByteArray("1") << "menuL1" << 6 << QByteArray(" 1 ");
+    }
+    void theLineWidthIsReadMappedDrawnAndStored() {
+        QFETCH(QByteArray, stored);
+        QFETCH(QString, item);
+        QFETCH(int, pixels);
+        QFETCH(QByteArray, written);
+        folder->write("ZARMOLO.INI", "SpessoreLinea=" + stored.toStdString() + "\r\n");
+        open();
+        QVERIFY(action(qPrintable(item))->isChecked());
+        newMatch();
+        child<QTimer>("Timer2")->stop();
+        press(0);
+        press(1);
+        QCOMPARE(drawnLineWidth(), pixels);
+        action("MenuBir")->trigger();
+        const std::string line = "SpessoreLinea=" + written.toStdString() + "\r\n";
+        QVERIFY(folder->read("ZARMOLO.INI").find(line) != std::string::npos);
     }
 
     void aSettingsFileThatCannotBeWrittenIsReportedAndTheGameGoesOn() {
@@ -267,7 +340,7 @@ private slots:
         QVERIFY(folder->read("ZARMOLO.INI").find("Giocatore1=MARIO\r\n") != std::string::npos);
     }
 
-    void aShortMatchAgainstTheFastestOpponentEndsInTheResultWindow() {
+    void twoShortMatchesAgainstTheFastestOpponentShareOneResultWindow() {
         WordLists words;
         words[0] = {"AAA", "EEE"}; // words any board of only A and E is full of
         folder->write("SLESSICO.1", buildDictionaryFile("test", words));
@@ -275,28 +348,71 @@ private slots:
         open();
         newMatch();
         setBoard("AEAEAEAEAEAEAEAEAEAEAEAEA");
-        child<QTimer>("Timer1")->setInterval(15);
-        child<QTimer>("Timer2")->setInterval(1);
+        const auto aeBoard = window->state().immagineCella;
+        auto* timer1 = child<QTimer>("Timer1");
+        auto* timer2 = child<QTimer>("Timer2");
+        // The clock waits for the opponent to find both words, and the opponent then rests, so that
+        // no walk is halfway through a yield when the time runs out.
+        timer1->setInterval(60'000);
+        timer2->setInterval(1);
+        QTRY_COMPARE_WITH_TIMEOUT(window->state().puntiCPU, 360, 10000);
+        timer2->stop();
+        timer1->setInterval(1);
+        int shown = 0, nestedTicks = 0, opponentRan = 0;
         QString result, history, cpuName, wins;
-        whenShown(
-            "Form2",
-            [&](QWidget* w) {
+        QStringList historyAfterTwo;
+        std::function<void(QWidget*)> onResult = [&](QWidget* w) {
+            ++shown;
+            opponentRan += timer2->isActive();
+            auto* list = w->findChild<QListWidget*>("List1");
+            if (shown == 1) {
                 result = w->findChild<QLabel*>("Label1")->text();
                 cpuName = w->findChild<QLabel*>("Label3_1")->text();
-                history = w->findChild<QListWidget*>("List1")->item(0)->text();
+                history = list->item(0)->text();
                 wins = w->findChild<QLabel*>("Label10")->text();
-                clickButton(w, "Command1");
-            },
-            2000);
-        QTRY_VERIFY_WITH_TIMEOUT(!result.isEmpty(), 10000);
+                // Ticks falling due now are dropped: with a longer match they would count on.
+                const int elapsed = window->state().secondiTrascorsi;
+                window->state().tempoPartita = 1000;
+                timer1->start(0);
+                QTest::qWait(30);
+                timer1->stop();
+                nestedTicks = window->state().secondiTrascorsi - elapsed;
+            } else {
+                for (int i = 0; i < list->count(); ++i)
+                    historyAfterTwo << list->item(i)->text();
+                clickButton(w, "Command2");
+            }
+            timer1->setInterval(60'000); // nothing moves while the new board is looked at
+            timer2->setInterval(60'000);
+            clickButton(w, "Command1");
+        };
+        whenShown("Form2", onResult, 2000);
+        QTRY_COMPARE_WITH_TIMEOUT(shown, 1, 10000);
         QCOMPARE(result, QString("Ha vinto Sapienzo (CPU)"));
         QCOMPARE(cpuName, QString("Sapienzo (CPU)"));
         QCOMPARE(history, QString("  1) BRIVO    0   Computer  360"));
         QCOMPARE(wins, QString(" 1"));
         QVERIFY(std::find(sounds.played.begin(), sounds.played.end(), "explode2.wav") !=
                 sounds.played.end());
-        QVERIFY(child<QTimer>("Timer1")->isActive()); // the next match is under way
-        QVERIFY(window->state().secondiTrascorsi < 60);
+        QCOMPARE(nestedTicks, 0);
+        QCOMPARE(terminated, 0);
+        // "&OK": the next match is under way on a new board, from nothing.
+        QVERIFY(timer1->isActive() && timer2->isActive());
+        QVERIFY(window->state().immagineCella != aeBoard);
+        QCOMPARE(child<QLabel>("Label10")->text(), QString("0"));
+        QCOMPARE(child<QLabel>("Label11")->text(), QString("0"));
+        QCOMPARE(child<QLabel>("Label4")->text(), QString("0s"));
+        QCOMPARE(child<TimeBar>("Picture2")->filledWidth(), 0);
+        QCOMPARE(child<QListWidget>("List2")->count(), 0);
+
+        window->state().tempoPartita = 2;
+        timer1->setInterval(1);
+        whenShown("Form2", onResult, 2000);
+        QTRY_COMPARE_WITH_TIMEOUT(shown, 2, 10000);
+        QCOMPARE(opponentRan, 0);
+        QCOMPARE(historyAfterTwo.size(), 2);
+        QCOMPARE(historyAfterTwo[0], history);
+        QCOMPARE(terminated, 1); // "&Annulla"
     }
 };
 
