@@ -22,7 +22,11 @@ void SoundPlayer::suona(std::string_view nomeFile) {
     // the console at every sound, and the game stays silent instead.
     if (!m_deviceChecked) {
         m_deviceChecked = true;
+        // The audio back end reports a missing sound server on the console while it looks.
+        const QtMessageHandler previous = qInstallMessageHandler(
+            [](QtMsgType, const QMessageLogContext&, const QString&) {});
         m_hasDevice = !QMediaDevices::audioOutputs().isEmpty();
+        qInstallMessageHandler(previous);
     }
     if (!m_hasDevice) return;
     // Created on first use, so a game that never makes a sound never opens the audio device.
