@@ -1,4 +1,5 @@
-// Any bytes as SLESSICO.1 on disk, with the three lookups run on it: the scan, the opponent's
+// Any bytes as SLESSICO.1 on disk (after two bytes that choose the word's length and the
+// moment its file is closed), with the three lookups run on it: the scan, the opponent's
 // binary search (whose file is closed under it at a point the input chooses, as a submission
 // does) and the submission's check. The words looked up are taken from the file's own blocks,
 // so the searches reach its records.
@@ -34,9 +35,10 @@ const std::filesystem::path& folder() {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    if (size < 1) return 0;
-    const int closeAfter = data[0] % 8; // the yield that closes every file; 0: none does
-    const std::string file(reinterpret_cast<const char*>(data) + 1, size - 1);
+    if (size < 2) return 0;
+    const int closeAfter = data[0] % 8;  // the yield that closes every file; 0: none does
+    const int length = 2 + data[1] % 10; // the length of the word looked up, 2 to 11
+    const std::string file(reinterpret_cast<const char*>(data) + 2, size - 2);
     std::ofstream(folder() / "SLESSICO.1", std::ios::binary | std::ios::trunc) << file;
 
     griglione::GameState state;
@@ -52,17 +54,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         folder());
     dictionary.prendidiz();
 
-    for (int length = 2; length <= griglione::kMaxWordLength + 1; ++length) {
-        std::string word(static_cast<std::size_t>(length), 'A');
-        if (length >= griglione::kMinWordLength && length <= griglione::kMaxIndexedLength) {
-            const std::int64_t at = dictionary.index().inizioGruppo(length) - 1;
-            if (at >= 0 && static_cast<std::size_t>(at + length) <= file.size())
-                word = file.substr(static_cast<std::size_t>(at), static_cast<std::size_t>(length));
-        }
-        yields = 0;
-        dictionary.cercaParola(word);
-        yields = 0;
-        dictionary.verificaParola(word);
+    std::string word(static_cast<std::size_t>(length), 'A');
+    if (length >= griglione::kMinWordLength) {
+        const std::int64_t at = dictionary.index().inizioGruppo(length) - 1;
+        if (at >= 0 && static_cast<std::size_t>(at + length) <= file.size())
+            word = file.substr(static_cast<std::size_t>(at), static_cast<std::size_t>(length));
     }
+    dictionary.cercaParola(word);
+    yields = 0;
+    dictionary.verificaParola(word);
     return 0;
 }

@@ -23,8 +23,8 @@ void SoundPlayer::suona(std::string_view nomeFile) {
     if (!m_deviceChecked) {
         m_deviceChecked = true;
         // The audio back end reports a missing sound server on the console while it looks.
-        const QtMessageHandler previous = qInstallMessageHandler(
-            [](QtMsgType, const QMessageLogContext&, const QString&) {});
+        const QtMessageHandler previous =
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
         m_hasDevice = !QMediaDevices::audioOutputs().isEmpty();
         qInstallMessageHandler(previous);
     }
