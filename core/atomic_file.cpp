@@ -80,7 +80,10 @@ bool mayWrite(const fs::path& path) {
         const fs::path folder = path.has_parent_path() ? path.parent_path() : fs::path(".");
         return fs::is_directory(folder, error) && hasWriteBit(folder);
     }
-    return !error && status.type() == fs::file_type::regular && hasWriteBit(path);
+    // The bits decide for a superuser, whom the system lets write anything; opening the file to
+    // add nothing decides for everybody else (the bits may belong to another owner).
+    return !error && status.type() == fs::file_type::regular && hasWriteBit(path) &&
+           openFile(path, "ab") != nullptr;
 }
 
 bool writeFileAtomically(const fs::path& path, std::string_view bytes) {
