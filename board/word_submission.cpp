@@ -87,7 +87,7 @@ void WordSubmission::inviaParola() {
         m_state.rispostaConferma = static_cast<std::int16_t>(m_prompt.confermaParola(parola));
         if (m_state.rispostaConferma == 1 || m_state.rispostaConferma == 2) {
             m_files.closeAll();
-            appendToPersonalVocabulary(m_dictionary.personalVocabularyPath(), parola);
+            m_dictionary.aggiungiAlVocabolario(parola);
         }
         if (m_state.rispostaConferma == 1) accept();
     } else {

@@ -107,6 +107,14 @@ std::string upperAnsi(std::string_view bytes) {
     return out;
 }
 
+bool fitsAnsi(std::string_view utf8) {
+    return fromAnsi(toAnsi(utf8)) == utf8;
+}
+
+std::string upperAnsiText(std::string_view utf8) {
+    return fromAnsi(upperAnsi(toAnsi(utf8)));
+}
+
 std::string lowerAscii(std::string_view text) {
     std::string out(text);
     for (char& c : out)

@@ -74,6 +74,12 @@ std::string Dictionary::verificaParola(const std::string& parola) {
     return personalVocabularyHas(personalVocabularyPath(), parola) ? "SI" : "NO";
 }
 
+bool Dictionary::aggiungiAlVocabolario(const std::string& parola) {
+    if (appendToPersonalVocabulary(personalVocabularyPath(), parola)) return true;
+    m_alerts.avviso(personalVocabularyWriteError(m_state.numDizionario));
+    return false;
+}
+
 std::string Dictionary::cercaParola(const std::string& parola) {
     std::error_code error;
     if (!std::filesystem::is_regular_file(dictionaryPath(), error)) {

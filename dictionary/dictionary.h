@@ -34,6 +34,10 @@ public:
     // (fewer than 3 letters), "BUSY" (its file was closed under it) or "" (no dictionary file).
     std::string cercaParola(const std::string& parola);
 
+    // Adds the word to the personal vocabulary; a failed write is reported in a message box and
+    // the game goes on. False when the word was not stored.
+    bool aggiungiAlVocabolario(const std::string& parola);
+
     const DictionaryIndex& index() const { return m_index; }
 
     std::filesystem::path dictionaryPath() const;

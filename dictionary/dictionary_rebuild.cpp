@@ -1,5 +1,6 @@
 #include "dictionary/dictionary_rebuild.h"
 
+#include "core/atomic_file.h"
 #include "core/file_names.h"
 
 #include <algorithm>
@@ -64,15 +65,7 @@ bool rebuildDictionary(const std::filesystem::path& folder, int numDizionario,
     if (std::filesystem::exists(std::filesystem::symlink_status(fresh, error)) &&
         !std::filesystem::remove(fresh, error))
         return false;
-    {
-        std::ofstream out(fresh, std::ios::binary | std::ios::trunc);
-        out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-        out.close();
-        if (!out) {
-            std::filesystem::remove(fresh, error);
-            return false;
-        }
-    }
+    if (!writeFileAtomically(fresh, bytes)) return false;
     std::filesystem::rename(fresh, target, error);
     if (error) {
         std::filesystem::remove(fresh, error);

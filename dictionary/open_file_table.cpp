@@ -1,9 +1,14 @@
 #include "dictionary/open_file_table.h"
 
+#include <system_error>
+
 namespace griglione {
 
 bool OpenFileTable::open(FileSlot slot, const std::filesystem::path& path) {
     close(slot);
+    // A folder of that name opens as a stream whose first read throws.
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error)) return false;
     auto file = std::make_unique<std::ifstream>(path, std::ios::binary);
     if (!*file) return false;
     Entry& e = entry(slot);

@@ -25,12 +25,16 @@ std::vector<std::string> textLines(std::string_view bytes) {
     return lines;
 }
 
-std::vector<std::string> readPersonalVocabulary(const std::filesystem::path& file) {
+std::vector<std::string> personalVocabularyWords(std::string_view bytes) {
     std::vector<std::string> words;
-    if (const auto bytes = readWholeFile(file))
-        for (const std::string& line : textLines(*bytes))
-            words.push_back(upperAnsi(line));
+    for (const std::string& line : textLines(bytes))
+        words.push_back(upperAnsi(line));
     return words;
+}
+
+std::vector<std::string> readPersonalVocabulary(const std::filesystem::path& file) {
+    const auto bytes = readWholeFile(file);
+    return bytes ? personalVocabularyWords(*bytes) : std::vector<std::string>{};
 }
 
 bool personalVocabularyHas(const std::filesystem::path& file, std::string_view parola) {
@@ -46,6 +50,11 @@ bool appendToPersonalVocabulary(const std::filesystem::path& file, std::string_v
         line = "\r\n";
     line.append(parola).append("\r\n");
     return appendToFile(file, line);
+}
+
+std::string personalVocabularyWriteError(int numDizionario) {
+    return "Errore 0003: impossibile scrivere il file del vocabolario personale " +
+           personalVocabularyFileName(numDizionario) + ", la parola non è stata salvata";
 }
 
 } // namespace griglione

@@ -11,8 +11,12 @@ std::optional<std::string> readRulesText(const std::filesystem::path& folder,
                                          std::string_view lineEnd) {
     const auto bytes = readWholeFile(resolveFileName(folder, kRulesFileName));
     if (!bytes) return std::nullopt;
+    return rulesTextFromBytes(*bytes, lineEnd);
+}
+
+std::string rulesTextFromBytes(std::string_view bytes, std::string_view lineEnd) {
     std::string text;
-    for (const std::string& line : textLines(*bytes))
+    for (const std::string& line : textLines(bytes))
         text.append(fromAnsi(line)).append(lineEnd);
     return text;
 }

@@ -11,6 +11,9 @@ namespace griglione {
 
 inline constexpr std::string_view kRulesFileName = "REGPAROL.TXT";
 
+// Every line of a rules file's bytes followed by `lineEnd`, as UTF-8.
+std::string rulesTextFromBytes(std::string_view bytes, std::string_view lineEnd);
+
 // Every line of the rules file followed by `lineEnd`, as UTF-8; nothing when it is missing.
 std::optional<std::string> readRulesText(const std::filesystem::path& folder,
                                          std::string_view lineEnd);

@@ -21,6 +21,8 @@ public:
 
 private:
     QSoundEffect* m_effect = nullptr;
+    bool m_deviceChecked = false;
+    bool m_hasDevice = false;
 };
 
 } // namespace griglione

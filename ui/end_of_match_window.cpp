@@ -22,6 +22,15 @@ QLabel* label(QWidget* parent, const char* name, const QString& text, int left, 
     return l;
 }
 
+// A name of twelve wide letters fits its place in a smaller type rather than being cut.
+void fitText(QLabel* label, const QString& text) {
+    QFont font = tahoma(8.25);
+    label->setText(text);
+    while (QFontMetrics(font).horizontalAdvance(text) > label->width() && font.pointSizeF() > 5)
+        font.setPointSizeF(font.pointSizeF() - 0.5);
+    label->setFont(font);
+}
+
 } // namespace
 
 EndOfMatchWindow::EndOfMatchWindow(QTimer& matchClock, QTimer& opponentClock, Sounds& sounds,
@@ -40,7 +49,7 @@ EndOfMatchWindow::EndOfMatchWindow(QTimer& matchClock, QTimer& opponentClock, So
     m_result = label(this, "Label1", "", 720, 120, 5400, 480);
     m_result->setFont(tahoma(14, true));
     setTextColour(m_result, QColor(128, 0, 0));
-    m_names[0] = label(this, "Label3_0", "Brivo (Umano)", 630, 780, 1600, 300);
+    m_names[0] = label(this, "Label3_0", "Brivo (Umano)", 630, 780, 1680, 300);
     m_scores[0] = label(this, "Label4_0", "0", 2310, 720, 800, 360);
     m_scores[1] = label(this, "Label4_1", "0", 3150, 720, 800, 360);
     m_names[1] = label(this, "Label3_1", "(Computer)", 3990, 780, 2300, 300);
@@ -84,6 +93,10 @@ EndOfMatchWindow::EndOfMatchWindow(QTimer& matchClock, QTimer& opponentClock, So
         if (m_openReview) m_openReview();
     });
 
+    // Right of the statistics, the one free corner of the window.
+    m_picture = label(this, "Picture3", "", 5430, 3090, 1000, 1200);
+    m_picture->setAlignment(Qt::AlignCenter);
+
     m_matchClock.stop();
     m_opponentClock.stop();
     centreOnScreen(this);
@@ -95,7 +108,7 @@ void EndOfMatchWindow::showResult(const QString& playerName, int playerScore, in
     const EndOfMatchTexts report =
         m_statistics.record(playerName.toStdString(), levelChecked, playerScore, cpuScore);
     m_names[1]->setText(QString::fromStdString(report.cpuName));
-    m_names[0]->setText(playerName);
+    fitText(m_names[0], playerName);
     m_scores[0]->setText(QString::fromStdString(report.humanScore));
     m_scores[1]->setText(QString::fromStdString(report.cpuScore));
     m_result->setText(QString::fromStdString(report.result));
@@ -106,6 +119,12 @@ void EndOfMatchWindow::showResult(const QString& playerName, int playerScore, in
     m_counts[1]->setText(QString::fromStdString(report.cpuWins));
     m_counts[2]->setText(QString::fromStdString(report.draws));
     exec();
+}
+
+void EndOfMatchWindow::setPicture(const QPixmap& picture) {
+    if (picture.isNull()) return;
+    m_picture->setPixmap(
+        picture.scaled(m_picture->size(), Qt::KeepAspectRatio, Qt::SmoothTransformation));
 }
 
 void EndOfMatchWindow::goOn() {

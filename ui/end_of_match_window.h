@@ -31,6 +31,9 @@ public:
     void showResult(const QString& playerName, int playerScore, int cpuScore,
                     const std::array<bool, 4>& levelChecked);
 
+    // The decorative picture (Picture3), fitted into its place.
+    void setPicture(const QPixmap& picture);
+
 protected:
     // Closing it from its frame goes on to the next match, as "&OK" does.
     void reject() override;
@@ -50,6 +53,7 @@ private:
     std::array<QLabel*, 2> m_scores{};
     std::array<QLabel*, 3> m_counts{};
     QListWidget* m_history = nullptr;
+    QLabel* m_picture = nullptr;
 };
 
 } // namespace griglione

@@ -13,6 +13,7 @@
 #include "ui/editor_flow.h"
 #include "ui/end_of_match_window.h"
 #include "ui/help_links.h"
+#include "ui/name_validator.h"
 #include "ui/path_overlay.h"
 #include "ui/records_flow.h"
 #include "ui/review_window.h"
@@ -22,6 +23,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFocusEvent>
+#include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -101,6 +103,16 @@ QPixmap fallbackDie(const std::string& name) {
     return die;
 }
 
+// The pixels a rectangle of twips covers, so a frame a fraction of a pixel outside the dice
+// still shows as a line around them.
+QRect coveredPixels(const Rect& r) {
+    const int left = r.left / kTwipsPerPixel;
+    const int top = r.top / kTwipsPerPixel;
+    const int right = (r.left + r.width + kTwipsPerPixel - 1) / kTwipsPerPixel;
+    const int bottom = (r.top + r.height + kTwipsPerPixel - 1) / kTwipsPerPixel;
+    return {left, top, right - left, bottom - top};
+}
+
 } // namespace
 
 MainWindow::MainWindow(Services services)
@@ -167,15 +179,19 @@ void MainWindow::buildControls() {
 
     const QRect cell0 = twipsRect(kBoardLeft, kBoardTop, kDieTwips, kDieTwips);
     const auto frames = boardFrames({kBoardLeft, kBoardTop, kDieTwips, kDieTwips});
+    // The shadow first, under the frame: a black block of the frame's size, of which only the
+    // strip right of and below the frame shows. The frame is a black line around the dice.
+    const QRect framePixels = coveredPixels(frames[0]);
     for (int i = 1; i >= 0; --i) {
-        // Drawn a little wider than the block, so the frame shows around the dice.
-        auto* frame = new QWidget(area);
+        auto* frame = new QFrame(area);
         frame->setObjectName(QStringLiteral("Shape1_%1").arg(i));
-        const Rect& r = frames[i];
-        frame->setGeometry(twipsRect(r.left, r.top, r.width, r.height).adjusted(-3, -3, 3, 3));
-        frame->setAutoFillBackground(true);
+        frame->setGeometry(i == 0 ? framePixels
+                                  : QRect(coveredPixels(frames[1]).topLeft(), framePixels.size()));
+        frame->setFrameStyle(i == 0 ? QFrame::Box | QFrame::Plain : QFrame::NoFrame);
+        frame->setAutoFillBackground(i == 1);
         QPalette fp = frame->palette();
-        fp.setColor(QPalette::Window, i == 0 ? QColor(20, 20, 20) : QColor(0, 30, 0));
+        fp.setColor(QPalette::WindowText, Qt::black);
+        fp.setColor(QPalette::Window, Qt::black);
         frame->setPalette(fp);
         m_frames[i] = frame;
     }
@@ -203,6 +219,9 @@ void MainWindow::buildControls() {
         area, "Command2", "&OK", at(5340, 660, 984, 915),
         QString::fromStdString(resolveFileName(m_services.folder, "okbutton.gif").string()));
     connect(ok, &QToolButton::clicked, this, [this] { m_submission->inviaParola(); });
+    // Alt+O belongs to the "&Opzioni" menu: shared with the button, the first press would only
+    // move the focus. Enter submits the word anyway.
+    ok->setShortcut(QKeySequence());
     auto* clear = pictureButton(
         area, "Command1", "&Azzera ", at(6360, 660, 984, 915),
         QString::fromStdString(resolveFileName(m_services.folder, "azzera.gif").string()));
@@ -217,7 +236,7 @@ void MainWindow::buildControls() {
     m_playerName = new QLineEdit("BRIVO", area);
     m_playerName->setObjectName("Text1");
     m_playerName->setGeometry(at(6120, 2130, 1188, 252));
-    m_playerName->setMaxLength(12);
+    m_playerName->setValidator(new NameValidator(m_playerName));
     m_playerName->installEventFilter(this);
 
     // The two headings overlap by a few pixels: this one keeps its text clear of the other.
@@ -310,7 +329,7 @@ void MainWindow::readSettings() {
     for (std::size_t i = 0; i < m_menu.tempi.size(); ++i)
         m_menu.tempi[i]->setChecked(settings.timeChecked[i]);
     m_state.tempoPartita = static_cast<std::int16_t>(settings.tempoPartita);
-    m_playerName->setText(QString::fromStdString(settings.playerName));
+    NameValidator::setName(m_playerName, QString::fromStdString(settings.playerName));
     m_state.spessoreLinea = static_cast<std::int16_t>(
         settings.spessoreLinea == 1 || settings.spessoreLinea == 13 ? settings.spessoreLinea : 7);
     m_state.numDizionario = static_cast<std::int16_t>(settings.numDizionario);
@@ -405,6 +424,7 @@ void MainWindow::endOfMatch() {
             if (!review) review = new ReviewWindow(m_endOfMatch);
             review->showBoard(m_state, m_services.folder);
         });
+        m_endOfMatch->setPicture(picture("griglione.gif"));
     }
     m_endOfMatch->hide();
     m_endOfMatch->showResult(m_playerName->text(), m_playerScore->text().toInt(),
@@ -539,11 +559,13 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     // The name is saved when the focus moves to another control of this window, not when a
-    // menu or another window takes it for a while.
+    // menu (opened by mouse or keyboard) or another window takes it for a while. The control
+    // that takes the focus already holds it when the box hears of the loss.
     if (watched == m_playerName && event->type() == QEvent::FocusOut) {
-        const auto reason = static_cast<QFocusEvent*>(event)->reason();
-        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
-            m_playerName->setText(m_playerName->text().toUpper());
+        const QWidget* next = QApplication::focusWidget();
+        if (next && next != m_playerName && next->window() == this &&
+            !qobject_cast<const QMenuBar*>(next)) {
+            m_playerName->setText(upperName(m_playerName->text()));
             salvaImpostazioni();
         }
     }

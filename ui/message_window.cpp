@@ -4,6 +4,7 @@
 #include "ui/colours.h"
 #include "ui/twips.h"
 
+#include <QApplication>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
@@ -25,12 +26,72 @@ void paint(QLabel* label, int foreground, int background) {
 
 } // namespace
 
-void centreOnScreen(QWidget* window) {
+namespace {
+
+QMargins frameMargins(const QWidget* window) {
+    const QRect frame = window->frameGeometry();
+    const QRect inner = window->geometry();
+    return {inner.left() - frame.left(), inner.top() - frame.top(), frame.right() - inner.right(),
+            frame.bottom() - inner.bottom()};
+}
+
+// A window gets its frame from the window manager only once it is shown, so before that the
+// frame is taken to be that of a window already framed (the main window): the same manager
+// draws the same frame, and the window opens in its place instead of a title bar too low.
+QMargins expectedFrame(const QWidget* window) {
+    if (!frameMargins(window).isNull()) return frameMargins(window);
+    for (const QWidget* other : QApplication::topLevelWidgets())
+        if (other != window && other->isVisible() && !frameMargins(other).isNull())
+            return frameMargins(other);
+    return {};
+}
+
+void placeCentred(QWidget* window, const QMargins& frame) {
     const QScreen* screen = window->screen();
     if (!screen) return;
     const QRect area = screen->geometry();
-    const QSize size = window->frameGeometry().size();
+    const QSize size = window->size().grownBy(frame);
     window->move((area.width() - size.width()) / 2, (area.height() - size.height()) / 2);
+}
+
+// Centres the window again when its own frame turns out other than expected, then lets go, so
+// a window the player moves later stays where it is put.
+class CentreWhenFramed final : public QObject {
+public:
+    CentreWhenFramed(QWidget* window, const QMargins& expected)
+        : QObject(window), m_window(window), m_expected(expected) {
+        window->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Show) {
+            m_window->removeEventFilter(this);
+            check(40);
+        }
+        return false;
+    }
+
+private:
+    void check(int tries) {
+        const QMargins frame = frameMargins(m_window);
+        if (frame.isNull() && tries > 0) {
+            QTimer::singleShot(25, this, [this, tries] { check(tries - 1); });
+            return;
+        }
+        if (frame != m_expected) placeCentred(m_window, frame);
+        deleteLater();
+    }
+
+    QWidget* m_window;
+    QMargins m_expected;
+};
+
+} // namespace
+
+void centreOnScreen(QWidget* window) {
+    const QMargins frame = expectedFrame(window);
+    placeCentred(window, frame);
+    if (!window->isVisible()) new CentreWhenFramed(window, frame);
 }
 
 MessageWindow::MessageWindow(const Messaggio& messaggio, QWidget* parent) : QDialog(parent) {

@@ -2,6 +2,7 @@
 // answers.
 #pragma once
 
+#include "core/atomic_file.h"
 #include "core/ports.h"
 #include "core/random.h"
 
@@ -103,6 +104,19 @@ public:
 
 private:
     std::filesystem::path m_path;
+};
+
+} // namespace griglione::testing
+
+namespace griglione::testing {
+
+// A disk that fills up: while it lives, the writes of core/atomic_file store `bytes` more bytes
+// and then fail.
+struct WriteLimit {
+    explicit WriteLimit(std::size_t bytes) { setWriteLimitForTesting(bytes); }
+    ~WriteLimit() { setWriteLimitForTesting(std::nullopt); }
+    WriteLimit(const WriteLimit&) = delete;
+    WriteLimit& operator=(const WriteLimit&) = delete;
 };
 
 } // namespace griglione::testing
