@@ -2,8 +2,11 @@
 // a disk that fills up part-way. Nothing throws, nothing half-written is left, and a failed
 // write of the personal vocabulary is reported.
 #include "board/word_submission.h"
+#include "dictionary/dictionary_format.h"
+#include "dictionary/dictionary_rebuild.h"
 #include "dictionary/personal_vocabulary.h"
 #include "dictionary/rules_text.h"
+#include "records/record_opening.h"
 #include "tests/support/board_parts.h"
 
 #include <gtest/gtest.h>
@@ -63,6 +66,32 @@ TEST(FileRobustness, AFailedRewriteOrAppendLeavesTheOldFileByteForByte) {
         fs::permissions(file, fs::perms::owner_all);
         EXPECT_EQ(folder.read("ZARMOLO.INI"), old);
         EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 1);
+    }
+}
+
+// The records table and the rebuilt dictionary go through the same writes: a disk that fills
+// part-way leaves the old file whole and nothing beside it.
+TEST(FileRobustness, AFailedRecordOrDictionaryRewriteLeavesTheOldFile) {
+    WordLists words;
+    words[0] = {"ERA", "ORA"};
+    const std::string oldDictionary = buildDictionaryFile("test", words);
+    for (const std::size_t limit : {std::size_t{0}, std::size_t{300}}) {
+        SCOPED_TRACE(limit);
+        TempFolder folder;
+        folder.write("zarMolo.HIS", "ANNA, 2000 \r\n");
+        folder.write("SLESSICO.1", oldDictionary);
+        GameState state;
+        state.inserisciRecord = true;
+        state.puntiGiocatore = 1500;
+        {
+            WriteLimit full(limit);
+            riempiTabella(state, "BRIVO", folder.path() / "zarMolo.HIS");
+            words[0].push_back("UVA");
+            EXPECT_FALSE(rebuildDictionary(folder.path(), 1, "test", words));
+        }
+        EXPECT_EQ(folder.read("zarMolo.HIS"), "ANNA, 2000 \r\n");
+        EXPECT_EQ(folder.read("SLESSICO.1"), oldDictionary);
+        EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 2);
     }
 }
 
