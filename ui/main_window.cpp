@@ -13,7 +13,9 @@
 #include "ui/editor_flow.h"
 #include "ui/end_of_match_window.h"
 #include "ui/help_links.h"
+#include "ui/main_window_controls.h"
 #include "ui/name_validator.h"
+#include "ui/options_flow.h"
 #include "ui/path_overlay.h"
 #include "ui/records_flow.h"
 #include "ui/review_window.h"
@@ -29,7 +31,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
-#include <QPainter>
 #include <QTimer>
 #include <QToolButton>
 
@@ -46,62 +47,6 @@ constexpr int kDesignPanelLeft = 5340;
 
 // The whole window, frame included, at the top-left corner of the screen.
 constexpr QSize kWindowSize(640, 470);
-
-const QColor kDarkGreen(0, 64, 0);
-const QColor kBlue(0, 0, 128);
-const QColor kRed(128, 0, 0);
-const QColor kDarkGrey(64, 64, 64);
-
-QLabel* label(QWidget* parent, const char* name, const QString& text, const QRect& geometry,
-              const QColor& foreground, const QColor& background) {
-    auto* l = new QLabel(text, parent);
-    l->setObjectName(name);
-    l->setGeometry(geometry);
-    l->setAlignment(Qt::AlignCenter);
-    setColours(l, foreground, background);
-    return l;
-}
-
-QListWidget* wordList(QWidget* parent, const char* name, const QRect& geometry,
-                      const QColor& background) {
-    auto* list = new QListWidget(parent);
-    list->setObjectName(name);
-    list->setGeometry(geometry);
-    QPalette palette = list->palette();
-    palette.setColor(QPalette::Base, background);
-    list->setPalette(palette);
-    return list;
-}
-
-QToolButton* pictureButton(QWidget* parent, const char* name, const QString& text,
-                           const QRect& geometry, const QString& pictureFile) {
-    auto* button = new QToolButton(parent);
-    button->setObjectName(name);
-    button->setText(text);
-    button->setGeometry(geometry);
-    button->setIcon(QIcon(pictureFile));
-    button->setIconSize(QSize(32, 32));
-    button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    button->setFocusPolicy(Qt::StrongFocus);
-    return button;
-}
-
-// A die drawn when its picture file is missing, so the board stays playable.
-QPixmap fallbackDie(const std::string& name) {
-    QPixmap die(64, 64);
-    die.fill(kDarkGreen);
-    QPainter painter(&die);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(QColor(250, 245, 225));
-    painter.setPen(QPen(QColor(90, 80, 60), 2));
-    painter.drawRoundedRect(QRectF(3, 3, 58, 58), 8, 8);
-    if (name.size() > 7 && name != kBlankDie) {
-        painter.setFont(tahoma(26, true));
-        painter.setPen(Qt::black);
-        painter.drawText(die.rect(), Qt::AlignCenter, QString(QChar(name[6])));
-    }
-    return die;
-}
 
 // The pixels a rectangle of twips covers, so a frame a fraction of a pixel outside the dice
 // still shows as a line around them.
@@ -142,6 +87,10 @@ MainWindow::MainWindow(Services services)
         [this](const std::string& parola) { return m_dictionary.cercaParola(parola); },
         m_services.yield, *this);
     connect(m_timer2, &QTimer::timeout, this, [this] { m_opponent->tick(); });
+    m_options = std::make_unique<OptionsFlow>(
+        m_state, m_menu, *m_timer2, *m_playerName, m_services.alerts, m_services.folder,
+        OptionsFlow::Hooks{[this] { aggMenudiz(); }, [this] { settaSpessLinea(); },
+                           [this] { restartAfterSettingChange(); }});
     m_records = std::make_unique<RecordsFlow>(*this, m_state, *m_timer1, *m_timer2, m_messages,
                                               m_services, [this] { return m_playerName->text(); });
     wireMenu();
@@ -249,8 +198,8 @@ void MainWindow::buildControls() {
     label(area, "Label7", "Punti", at(6022, 4320, 555, 225), Qt::white, kRed);
     m_cpuScore = label(area, "Label11", "0", at(6750, 4320, 555, 225), Qt::white, kDarkGrey);
 
-    auto* link = label(area, "Label12", kSitoWebTesto,
-                       twipsRect(5295 + d, 4590, 1995, 255), QColor(255, 255, 128), kDarkGreen);
+    auto* link = label(area, "Label12", kSitoWebTesto, twipsRect(5295 + d, 4590, 1995, 255),
+                       QColor(255, 255, 128), kDarkGreen);
     link->setToolTip("Visita il sito dell'autore");
     m_cpuAttempt = label(area, "Label8", "", at(5340, 4860, 1950, 225), Qt::white, kDarkGreen);
     m_cpuAttempt->hide();
@@ -269,17 +218,8 @@ void MainWindow::wireMenu() {
     connect(m_menu.nuovo, &QAction::triggered, this, &MainWindow::nuovaPartita);
     connect(m_menu.fine, &QAction::triggered, this, &MainWindow::quit);
     connect(m_menu.records, &QAction::triggered, this, [this] { m_records->fromMenu(); });
-    connect(m_menu.suono, &QAction::triggered, this, &MainWindow::salvaImpostazioni);
     connect(m_menu.paroleAmmesse, &QAction::triggered, this, &MainWindow::showRules);
-    for (std::size_t i = 0; i < m_menu.tempi.size(); ++i)
-        connect(m_menu.tempi[i], &QAction::triggered, this, [this, i] { chooseMatchLength(i); });
-    for (std::size_t i = 0; i < m_menu.livelli.size(); ++i)
-        connect(m_menu.livelli[i], &QAction::triggered, this, [this, i] { chooseLevel(i); });
-    for (std::size_t i = 0; i < m_menu.lingue.size(); ++i)
-        connect(m_menu.lingue[i], &QAction::triggered, this,
-                [this, i](bool checkedNow) { chooseLanguage(i, !checkedNow); });
-    for (std::size_t i = 0; i < m_menu.spessori.size(); ++i)
-        connect(m_menu.spessori[i], &QAction::triggered, this, [this, i] { chooseLineWidth(i); });
+    m_options->wire(this);
 }
 
 void MainWindow::showEvent(QShowEvent* event) {
@@ -303,7 +243,7 @@ void MainWindow::startUp() {
     m_state.tempoPartita = 120;
     m_state.spessoreLinea = 7;
     m_state.numDizionario = 1;
-    readSettings();
+    m_options->readSettings();
     m_timer1->stop();
     m_clockFrame->setText("");
     std::size_t width = 1;
@@ -316,41 +256,8 @@ void MainWindow::startUp() {
     m_logo->setPixmap(picture("griglione.gif"));
 }
 
-void MainWindow::readSettings() {
-    const auto bytes = readWholeFile(resolveFileName(m_services.folder, kSettingsFileName));
-    if (!bytes) return;
-    Settings settings = currentSettings();
-    applySettingsFile(*bytes, settings);
-
-    m_timer2->setInterval(settings.timer2Interval);
-    for (std::size_t i = 0; i < m_menu.livelli.size(); ++i)
-        if (settings.levelChecked[i]) m_menu.livelli[i]->setChecked(true);
-    m_menu.suono->setChecked(settings.sound);
-    for (std::size_t i = 0; i < m_menu.tempi.size(); ++i)
-        m_menu.tempi[i]->setChecked(settings.timeChecked[i]);
-    m_state.tempoPartita = static_cast<std::int16_t>(settings.tempoPartita);
-    NameValidator::setName(m_playerName, QString::fromStdString(settings.playerName));
-    m_state.spessoreLinea = static_cast<std::int16_t>(
-        settings.spessoreLinea == 1 || settings.spessoreLinea == 13 ? settings.spessoreLinea : 7);
-    m_state.numDizionario = static_cast<std::int16_t>(settings.numDizionario);
-}
-
-Settings MainWindow::currentSettings() const {
-    Settings settings;
-    settings.timer2Interval = m_timer2->interval();
-    settings.sound = m_menu.suono->isChecked();
-    settings.tempoPartita = m_state.tempoPartita;
-    settings.playerName = m_playerName->text().toStdString();
-    settings.spessoreLinea = m_state.spessoreLinea;
-    settings.numDizionario = m_state.numDizionario;
-    return settings;
-}
-
 void MainWindow::salvaImpostazioni() {
-    if (!writeFileAtomically(resolveFileName(m_services.folder, kSettingsFileName),
-                             settingsFileBytes(currentSettings())))
-        m_services.alerts.avviso(
-            "Errore 001: impossibile riscivere il file di inizializzazione ZARMOLO.INI");
+    m_options->salvaImpostazioni();
 }
 
 void MainWindow::settaSpessLinea() {
@@ -367,17 +274,10 @@ void MainWindow::aggMenudiz() {
     m_dictionary.prendidiz();
 }
 
-std::array<bool, 4> MainWindow::levelChecks() const {
-    std::array<bool, 4> checks{};
-    for (std::size_t i = 0; i < checks.size(); ++i)
-        checks[i] = m_menu.livelli[i]->isChecked();
-    return checks;
-}
-
 void MainWindow::startPartita() {
     m_timer1->stop();
     m_timer2->stop();
-    m_state.messaggio = startMessage(m_state, levelChecks());
+    m_state.messaggio = startMessage(m_state, m_options->levelChecks());
     m_messages.mostraMessaggio(m_state.messaggio, true);
 }
 
@@ -428,7 +328,7 @@ void MainWindow::endOfMatch() {
     }
     m_endOfMatch->hide();
     m_endOfMatch->showResult(m_playerName->text(), m_playerScore->text().toInt(),
-                             m_cpuScore->text().toInt(), levelChecks());
+                             m_cpuScore->text().toInt(), m_options->levelChecks());
     m_records->afterMatch();
     m_board.lanciaDadi(true);
     m_board.azzeraParola();
@@ -440,44 +340,6 @@ void MainWindow::diePressed(int n, int button) {
         startPartita();
         nuovaPartita();
     }
-}
-
-void MainWindow::chooseMatchLength(std::size_t item) {
-    checkOnly(m_menu.tempi, item);
-    m_state.tempoPartita = static_cast<std::int16_t>(kMatchLengths[item].seconds);
-    salvaImpostazioni();
-    restartAfterSettingChange();
-}
-
-void MainWindow::chooseLevel(std::size_t item) {
-    checkOnly(m_menu.livelli, item);
-    m_timer2->setInterval(kLevels[item].interval);
-    salvaImpostazioni();
-}
-
-void MainWindow::chooseLanguage(std::size_t item, bool wasChecked) {
-    if (wasChecked) {
-        m_menu.lingue[item]->setChecked(true);
-        return;
-    }
-    m_state.numDizionario = static_cast<std::int16_t>(kLanguages[item].numero);
-    // Latin is saved before its dictionary is loaded: a missing file then ends the program with
-    // the settings already naming Latin.
-    if (item == 2) {
-        salvaImpostazioni();
-        aggMenudiz();
-    } else {
-        aggMenudiz();
-        salvaImpostazioni();
-    }
-    restartAfterSettingChange();
-}
-
-void MainWindow::chooseLineWidth(std::size_t item) {
-    checkOnly(m_menu.spessori, item);
-    m_state.spessoreLinea = static_cast<std::int16_t>(kLineWidths[item].spessore);
-    salvaImpostazioni();
-    settaSpessLinea();
 }
 
 void MainWindow::showRules() {

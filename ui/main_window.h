@@ -38,6 +38,7 @@ class DieCell;
 class EditorFlow;
 class EndOfMatchWindow;
 class PathOverlay;
+class OptionsFlow;
 class RecordsFlow;
 class TimeBar;
 
@@ -88,17 +89,10 @@ private:
     void buildControls();
     void fitFrame(int tries);
     void wireMenu();
-    void readSettings();
-    Settings currentSettings() const;
-    std::array<bool, 4> levelChecks() const;
     void clockTick();
     void endOfMatch();
     void diePressed(int n, int button);
     void restartAfterSettingChange();
-    void chooseMatchLength(std::size_t item);
-    void chooseLevel(std::size_t item);
-    void chooseLanguage(std::size_t item, bool wasChecked);
-    void chooseLineWidth(std::size_t item);
     void showRules();
     void quit();
     QPixmap picture(const std::string& name);
@@ -119,6 +113,7 @@ private:
     std::unique_ptr<ConfirmPrompt> m_prompt;
     std::unique_ptr<WordSubmission> m_submission;
     std::unique_ptr<OpponentWalk> m_opponent;
+    std::unique_ptr<OptionsFlow> m_options;
     std::unique_ptr<RecordsFlow> m_records;
     EndOfMatchWindow* m_endOfMatch = nullptr;
     std::unique_ptr<EditorFlow> m_editors;

@@ -1,0 +1,65 @@
+#include "ui/main_window_controls.h"
+
+#include "board/board_layout.h"
+#include "platform/fonts.h"
+#include "ui/colours.h"
+
+#include <QIcon>
+#include <QLabel>
+#include <QListWidget>
+#include <QPainter>
+#include <QToolButton>
+
+namespace griglione {
+
+QLabel* label(QWidget* parent, const char* name, const QString& text, const QRect& geometry,
+              const QColor& foreground, const QColor& background) {
+    auto* l = new QLabel(text, parent);
+    l->setObjectName(name);
+    l->setGeometry(geometry);
+    l->setAlignment(Qt::AlignCenter);
+    setColours(l, foreground, background);
+    return l;
+}
+
+QListWidget* wordList(QWidget* parent, const char* name, const QRect& geometry,
+                      const QColor& background) {
+    auto* list = new QListWidget(parent);
+    list->setObjectName(name);
+    list->setGeometry(geometry);
+    QPalette palette = list->palette();
+    palette.setColor(QPalette::Base, background);
+    list->setPalette(palette);
+    return list;
+}
+
+QToolButton* pictureButton(QWidget* parent, const char* name, const QString& text,
+                           const QRect& geometry, const QString& pictureFile) {
+    auto* button = new QToolButton(parent);
+    button->setObjectName(name);
+    button->setText(text);
+    button->setGeometry(geometry);
+    button->setIcon(QIcon(pictureFile));
+    button->setIconSize(QSize(32, 32));
+    button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    button->setFocusPolicy(Qt::StrongFocus);
+    return button;
+}
+
+QPixmap fallbackDie(const std::string& name) {
+    QPixmap die(64, 64);
+    die.fill(kDarkGreen);
+    QPainter painter(&die);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(QColor(250, 245, 225));
+    painter.setPen(QPen(QColor(90, 80, 60), 2));
+    painter.drawRoundedRect(QRectF(3, 3, 58, 58), 8, 8);
+    if (name.size() > 7 && name != kBlankDie) {
+        painter.setFont(tahoma(26, true));
+        painter.setPen(Qt::black);
+        painter.drawText(die.rect(), Qt::AlignCenter, QString(QChar(name[6])));
+    }
+    return die;
+}
+
+} // namespace griglione
