@@ -23,9 +23,6 @@
 namespace griglione {
 namespace {
 
-const QColor kBlue(0, 0, 128);
-const QColor kRed(128, 0, 0);
-
 QLabel* label(QWidget* parent, const QString& name, const QString& text, const QRect& at) {
     auto* l = new QLabel(text, parent);
     l->setObjectName(name);

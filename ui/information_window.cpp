@@ -16,10 +16,6 @@
 namespace griglione {
 namespace {
 
-// The board's green, so that the logo sits on the window without a seam.
-const QColor kGreen(0, 64, 0);
-const QColor kLinkYellow(255, 255, 128);
-
 QLabel* text(QWidget* parent, const char* name, const QString& content, const QRect& geometry,
              const QFont& font) {
     auto* label = new QLabel(content, parent);
@@ -28,7 +24,7 @@ QLabel* text(QWidget* parent, const char* name, const QString& content, const QR
     label->setFont(font);
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    setColours(label, Qt::white, kGreen);
+    setColours(label, Qt::white, kDarkGreen);
     return label;
 }
 
@@ -72,7 +68,7 @@ InformationWindow::InformationWindow(const QPixmap& picture, MessageHost& messag
     setFixedSize(px(9000), px(5850));
     setAutoFillBackground(true);
     QPalette palette = this->palette();
-    palette.setColor(QPalette::Window, kGreen);
+    palette.setColor(QPalette::Window, kDarkGreen);
     setPalette(palette);
     setCursor(Qt::ArrowCursor);
 

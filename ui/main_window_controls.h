@@ -2,6 +2,8 @@
 // picture buttons, and a die drawn in place of a missing picture.
 #pragma once
 
+#include "ui/colours.h"
+
 #include <QColor>
 #include <QPixmap>
 #include <QRect>
@@ -15,11 +17,6 @@ class QToolButton;
 class QWidget;
 
 namespace griglione {
-
-inline const QColor kDarkGreen(0, 64, 0);
-inline const QColor kBlue(0, 0, 128);
-inline const QColor kRed(128, 0, 0);
-inline const QColor kDarkGrey(64, 64, 64);
 
 QLabel* label(QWidget* parent, const char* name, const QString& text, const QRect& geometry,
               const QColor& foreground, const QColor& background);

@@ -17,8 +17,6 @@
 namespace griglione {
 namespace {
 
-const QColor kDarkGreen(0, 64, 0);
-const QColor kPaleYellow(255, 255, 128);
 const QColor kGold(255, 204, 0);
 
 QLabel* label(QWidget* parent, const char* name, const QString& text, const QRect& geometry,
@@ -70,7 +68,7 @@ RecordsWindow::RecordsWindow(std::function<void(const QString&, const QString&)>
 
 void RecordsWindow::buildControls() {
     label(this, "Label3", "Il Griglione : I migliori punteggi", twipsRect(390, 60, 5400, 435),
-          kPaleYellow)
+          kLinkYellow)
         ->setFont(tahoma(14, true));
     m_first = label(this, "Label1", "Brivo The Best", twipsRect(390, 555, 3600, 375), Qt::white);
     m_first->setFont(tahoma(12, true));
@@ -108,7 +106,7 @@ void RecordsWindow::buildControls() {
     notesCaption->setWordWrap(true);
     m_notes = textBox(this, "Text1", "Sono il migliore", twipsRect(1260, 5580, 2520, 285));
     m_link = label(this, "Label7", "Registra record in Internet", twipsRect(3870, 5580, 2250, 285),
-                   kPaleYellow);
+                   kLinkYellow);
     QFont underlined = m_link->font();
     underlined.setUnderline(true);
     m_link->setFont(underlined);

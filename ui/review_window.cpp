@@ -4,6 +4,7 @@
 #include "core/number_text.h"
 #include "platform/fonts.h"
 #include "review/word_list.h"
+#include "ui/colours.h"
 #include "ui/die_cell.h"
 #include "ui/path_overlay.h"
 
@@ -26,7 +27,6 @@ constexpr int kListWidth = 140;
 constexpr int kListGap = 8;
 constexpr int kWidth = kListsLeft + 3 * kListWidth + 2 * kListGap + kMargin;
 constexpr int kHeight = 440;
-const QColor kDarkGreen(0, 64, 0);
 
 QString points(std::int32_t n) {
     return QString::fromStdString(groupedNumber(n, 1));
