@@ -87,7 +87,7 @@ TEST(ShippedDictionary, KeepsWhatTheRulesKeepAndLeavesOutWhatTheyRefuse) {
         {3, "MENTE", "MENTULA"},
         // Abbreviations: without a vowel by rule, with one by our list; Y is a vowel.
         {1, "PST ECCO", "HTTP TBC ECC ETC ING"},
-        {2, "HMM CWM GYM MYTH SKY ADZ CORPS", "MPH LTD ADJ AVG HWY QTY"},
+        {2, "HMM CWM GYM MYTH SKY ADZ CORPS ZOO", "MPH LTD ADJ AVG HWY QTY ZOOL OCEANOG"},
         {3, "LYNX", "PLT ETC"},
         // Roman numerals, unless they are words too.
         {2, "MIX CIVIL LIVID", "XIV XXXVIII"},
