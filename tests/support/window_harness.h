@@ -29,8 +29,7 @@ inline QWidget* shownWindow(const QString& name) {
 
 // Runs `action` on the window named `name` once it shows; polling from the event loop lets it
 // run inside a modal window's own loop, which the test's code cannot reach otherwise.
-inline void whenShown(const QString& name, std::function<void(QWidget*)> action,
-                      int tries = 2000) {
+inline void whenShown(const QString& name, std::function<void(QWidget*)> action, int tries = 2000) {
     QTimer::singleShot(5, [=] {
         if (QWidget* w = shownWindow(name)) return action(w);
         if (tries > 0) whenShown(name, action, tries - 1);
@@ -62,8 +61,9 @@ struct GameHarness {
     int terminated = 0;
     std::unique_ptr<MainWindow> window;
 
-    void start(std::function<void()> yield = [] {},
-               const std::filesystem::path& where = std::filesystem::path()) {
+    void start(
+        std::function<void()> yield = [] {},
+        const std::filesystem::path& where = std::filesystem::path()) {
         if (where.empty() && !folder.exists("SLESSICO.1"))
             folder.write("SLESSICO.1", buildDictionaryFile("test", wordsOf({{0, {"ERA"}}})));
         window = std::make_unique<MainWindow>(
@@ -72,7 +72,9 @@ struct GameHarness {
         window->startUp();
         window->show();
     }
-    template <typename T = QWidget> T* get(const char* name) { return child<T>(window.get(), name); }
+    template <typename T = QWidget> T* get(const char* name) {
+        return child<T>(window.get(), name);
+    }
     void trigger(const char* action) { get<QAction>(action)->trigger(); }
     QTimer* timer(const char* name) { return get<QTimer>(name); }
 };
@@ -91,7 +93,8 @@ struct EditorHarness {
 
     EditorContext context(const WordLists& words) {
         folder.write("SLESSICO.1", buildDictionaryFile("test", words));
-        dictionary = std::make_unique<Dictionary>(state, files, alerts, [] {}, folder.path());
+        dictionary = std::make_unique<Dictionary>(
+            state, files, alerts, [] {}, folder.path());
         dictionary->prendidiz();
         const auto ask = [this](const std::string& text) {
             asked.push_back(text);
@@ -103,8 +106,9 @@ struct EditorHarness {
             QCoreApplication::processEvents();
             if (onYield) onYield();
         };
-        return EditorContext{state, *dictionary, files,        alerts,       ask,
-                             yield, [] {},       [this] { ++terminated; }, folder.path()};
+        return EditorContext{state,        *dictionary, files, alerts,
+                             ask,          yield,       [] {}, [this] { ++terminated; },
+                             folder.path()};
     }
     QString lastAlert() const {
         return alerts.shown.empty() ? QString() : QString::fromStdString(alerts.shown.back());

@@ -51,9 +51,10 @@ private slots:
         QCOMPARE(child<QComboBox>(window.get(), "Combo1_1")->currentText(), QString("CASA"));
 
         type("luJn1a"); // J and 1 are dropped, letters go to upper case
-        QCOMPARE(editor->lastAlert(), QString("La parola 'LUNA' è stata momentaneamente aggiunta al "
-                                              "dizionario, cliccare sul bottone 'Crea dizionario' "
-                                              "per la ricostruzione definitiva sul disco."));
+        QCOMPARE(editor->lastAlert(),
+                 QString("La parola 'LUNA' è stata momentaneamente aggiunta al "
+                         "dizionario, cliccare sul bottone 'Crea dizionario' "
+                         "per la ricostruzione definitiva sul disco."));
         QCOMPARE(text("Label2_1"), QString("(3) Parole"));
         QCOMPARE(text("Label4"), QString("5"));
         QVERIFY(!entry()->isVisible());

@@ -41,9 +41,13 @@ private slots:
         const QString mail = QString("mailto:") + kEmailAutore, site = kSitoWeb;
         const int f1 = Qt::Key_F1, f8 = (Qt::CTRL | Qt::Key_F8).toCombined(),
                   f9 = (Qt::CTRL | Qt::Key_F9).toCombined();
-        QTest::newRow("help") << "file" << f1 << "" << "help" << "";
-        QTest::newRow("no help") << "" << f1 << "" << "" << missing;
-        QTest::newRow("help is a folder") << "folder" << f1 << "" << "" << missing;
+        QTest::newRow("help") << "file" << f1 << ""
+                              << "help"
+                              << "";
+        QTest::newRow("no help") << "" << f1 << ""
+                                 << "" << missing;
+        QTest::newRow("help is a folder") << "folder" << f1 << ""
+                                          << "" << missing;
         QTest::newRow("mail") << "" << f8 << "" << mail << "";
         QTest::newRow("site") << "" << f9 << "" << site << "";
         QTest::newRow("Label12") << "" << 0 << "Label12" << site << "";

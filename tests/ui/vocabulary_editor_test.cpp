@@ -91,8 +91,7 @@ private slots:
 
     void aMissingVocabularyIsCreatedAndAFailedSaveEndsTheProgram() {
         open();
-        QCOMPARE(editor->folder.exists("ZarmPriv.1") ? editor->folder.read("ZarmPriv.1") : "-",
-                 "");
+        QCOMPARE(editor->folder.exists("ZarmPriv.1") ? editor->folder.read("ZarmPriv.1") : "-", "");
         key(Qt::Key_C, Qt::AltModifier);
         QTRY_COMPARE(editor->lastAlert(),
                      QString("Non ci sono parole da cancellare dal vocabolario privato!"));
