@@ -42,13 +42,6 @@ template <typename T = QWidget> T* child(const QObject* parent, const char* name
     return found;
 }
 
-inline WordLists wordsOf(std::initializer_list<std::pair<int, std::vector<std::string>>> lists) {
-    WordLists words;
-    for (const auto& [index, list] : lists)
-        words[index] = list;
-    return words;
-}
-
 // A started and shown main window; its folder holds a dictionary of "ERA" unless the test
 // writes another one before start().
 struct GameHarness {
@@ -65,7 +58,7 @@ struct GameHarness {
         std::function<void()> yield = [] {},
         const std::filesystem::path& where = std::filesystem::path()) {
         if (where.empty() && !folder.exists("SLESSICO.1"))
-            folder.write("SLESSICO.1", buildDictionaryFile("test", wordsOf({{0, {"ERA"}}})));
+            folder.write("SLESSICO.1", buildDictionaryFile("test", WordLists{{{"ERA"}}}));
         window = std::make_unique<MainWindow>(
             Services{sounds, alerts, outside, clock, random, std::move(yield),
                      where.empty() ? folder.path() : where, [this] { ++terminated; }});
@@ -98,8 +91,8 @@ struct EditorHarness {
         dictionary->prendidiz();
         const auto ask = [this](const std::string& text) {
             asked.push_back(text);
-            const bool answer = !answers.empty() && answers.front();
-            if (!answers.empty()) answers.pop_front();
+            const bool answer = answers.at(0);
+            answers.pop_front();
             return answer;
         };
         const auto yield = [this] {
@@ -111,7 +104,7 @@ struct EditorHarness {
                              folder.path()};
     }
     QString lastAlert() const {
-        return alerts.shown.empty() ? QString() : QString::fromStdString(alerts.shown.back());
+        return QString::fromStdString(alerts.shown.empty() ? "" : alerts.shown.back());
     }
 };
 

@@ -40,7 +40,7 @@ private slots:
     }
 
     void editsByKeysThenRebuildsTheFileInPlace() {
-        WordLists words = wordsOf({{0, {"ERA", "ORA"}}, {1, {"CASA", "MARE"}}});
+        WordLists words = WordLists{{{"ERA", "ORA"}, {"CASA", "MARE"}}};
         open(words);
         QTRY_VERIFY(window->isLoaded());
         QVERIFY(QTest::qWaitForWindowActive(window.get()));
@@ -91,7 +91,7 @@ private slots:
         QTRY_COMPARE(text("Label3"), QString("Dizionario riscritto correttamente"));
         QVERIFY(exitWasOff && button("Command2")->isEnabled());
         QCOMPARE(editor->asked.size(), std::size_t(3));
-        words = wordsOf({{0, {"ERA"}}, {1, {"CASA", "LUNA", "MARE"}}});
+        words = WordLists{{{"ERA"}, {"CASA", "LUNA", "MARE"}}};
         QCOMPARE(editor->folder.read("SLESSICO.1").substr(199),
                  buildDictionaryFile("", words).substr(199));
         QCOMPARE(editor->dictionary->cercaParola("LUNA"), std::string("SI"));
@@ -99,7 +99,7 @@ private slots:
     }
 
     void exitStopsALoadAtItsNextCheck() {
-        WordLists words = wordsOf({{0, {"ERA"}}});
+        WordLists words = WordLists{{{"ERA"}}};
         for (int i = 0; i < 1000; ++i)
             words[7].push_back(std::string("AAAAAAA") + char('A' + i / 100) +
                                char('A' + i / 10 % 10) + char('A' + i % 10));

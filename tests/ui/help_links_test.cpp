@@ -3,6 +3,8 @@
 #include "core/addresses.h"
 #include "tests/support/window_harness.h"
 
+#include <QKeySequence>
+
 using namespace griglione;
 using namespace griglione::testing;
 
@@ -17,11 +19,10 @@ class HelpLinksTest : public QObject {
     std::unique_ptr<GameHarness> game;
 
     // Keys reach the menu's shortcuts only while the main window is the active one.
-    void press(int keys) {
+    void press(const QString& keys) {
         game->window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(game->window.get()));
-        const auto combination = QKeyCombination::fromCombined(keys);
-        QTest::keyClick(game->window.get(), combination.key(), combination.keyboardModifiers());
+        QTest::keySequence(game->window.get(), QKeySequence(keys));
     }
 
 private slots:
@@ -31,51 +32,46 @@ private slots:
     }
     void cleanup() { game.reset(); }
 
+    // The row's name says what lies beside the game as GRIGLIONE.htm: a "file", a "folder" or
+    // nothing; `input` is keys, or a control to click, of Form3 when it starts with "Form3/".
     void keysAndLinksOpenTheirTargets_data() {
-        QTest::addColumn<QString>("helpFile"); // what lies beside the game: "file", "folder", ""
-        QTest::addColumn<int>("keys");         // 0: a click on `control` instead
-        QTest::addColumn<QString>("control");  // a control of Form3 when it starts with "Form3/"
-        QTest::addColumn<QString>("opened");   // "help" for the help file beside the game
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<QString>("opened"); // "help" for the help file beside the game
         QTest::addColumn<QString>("alert");
         const QString missing = "Non trovato file di documentazione/help GRIGLIONE.htm";
         const QString mail = QString("mailto:") + kEmailAutore, site = kSitoWeb;
-        const int f1 = Qt::Key_F1, f8 = (Qt::CTRL | Qt::Key_F8).toCombined(),
-                  f9 = (Qt::CTRL | Qt::Key_F9).toCombined();
-        QTest::newRow("help") << "file" << f1 << ""
+        QTest::newRow("file") << "F1"
                               << "help"
                               << "";
-        QTest::newRow("no help") << "" << f1 << ""
-                                 << "" << missing;
-        QTest::newRow("help is a folder") << "folder" << f1 << ""
-                                          << "" << missing;
-        QTest::newRow("mail") << "" << f8 << "" << mail << "";
-        QTest::newRow("site") << "" << f9 << "" << site << "";
-        QTest::newRow("Label12") << "" << 0 << "Label12" << site << "";
-        QTest::newRow("Form3 Label6") << "" << 0 << "Form3/Label6" << site << "";
-        QTest::newRow("Form3 Label3") << "" << 0 << "Form3/Label3" << mail << "";
-        QTest::newRow("Form3 Picture2") << "" << 0 << "Form3/Picture2" << mail << "";
+        QTest::newRow("none") << "F1"
+                              << "" << missing;
+        QTest::newRow("folder") << "F1"
+                                << "" << missing;
+        QTest::newRow("mail") << "Ctrl+F8" << mail << "";
+        QTest::newRow("site") << "Ctrl+F9" << site << "";
+        QTest::newRow("Label12") << "Label12" << site << "";
+        QTest::newRow("Form3 Label6") << "Form3/Label6" << site << "";
+        QTest::newRow("Form3 Label3") << "Form3/Label3" << mail << "";
+        QTest::newRow("Form3 Picture2") << "Form3/Picture2" << mail << "";
     }
     void keysAndLinksOpenTheirTargets() {
-        QFETCH(QString, helpFile);
-        QFETCH(int, keys);
-        QFETCH(QString, control);
+        QFETCH(QString, input);
         QFETCH(QString, opened);
         QFETCH(QString, alert);
-        if (helpFile == "file") game->folder.write("GRIGLIONE.htm", "<!DOCTYPE html>");
-        if (helpFile == "folder")
-            std::filesystem::create_directory(game->folder.path() / "GRIGLIONE.htm");
-        if (opened == "help")
-            opened = QString::fromStdString((game->folder.path() / "GRIGLIONE.htm").string());
+        const std::filesystem::path help = game->folder.path() / "GRIGLIONE.htm";
+        if (QTest::currentDataTag() == QString("file")) game->folder.write("GRIGLIONE.htm", "");
+        if (QTest::currentDataTag() == QString("folder")) std::filesystem::create_directory(help);
+        if (opened == "help") opened = QString::fromStdString(help.string());
         QWidget* owner = game->window.get();
-        if (control.startsWith("Form3/")) {
-            press(Qt::Key_F4);
+        if (input.startsWith("Form3/")) {
+            press("F4");
             owner = informationWindows().value(0);
             QVERIFY(owner);
         }
-        if (keys)
-            press(keys);
+        if (input.contains("Label") || input.contains("Picture"))
+            QTest::mouseClick(child(owner, qPrintable(input.section('/', -1))), Qt::LeftButton);
         else
-            QTest::mouseClick(child(owner, qPrintable(control.section('/', -1))), Qt::LeftButton);
+            press(input);
         const auto only = [](const std::vector<std::string>& seen) {
             return seen.size() == 1 ? QString::fromStdString(seen[0])
                                     : QString::number(seen.size());
@@ -85,9 +81,9 @@ private slots:
     }
 
     void informationWindowIsRecreatedAndClosesTheMessage() {
-        press(Qt::Key_F4);
+        press("F4");
         game->window->messages().mostraMessaggio({"INFO!", "Prova", "testo"}, false);
-        press(Qt::Key_F4);
+        press("F4");
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCOMPARE(informationWindows().size(), 1);
         QVERIFY(QTest::qWaitForWindowActive(informationWindows().first()));

@@ -25,7 +25,7 @@ private slots:
         fs::create_directories(program);
         fs::create_directories(data);
         std::ofstream(data / "SLESSICO.1", std::ios::binary)
-            << buildDictionaryFile("test", wordsOf({{0, {"ERA"}}}));
+            << buildDictionaryFile("test", WordLists{{{"ERA"}}});
         fs::permissions(program, fs::perms::owner_write, fs::perm_options::remove);
         qputenv("XDG_DATA_HOME", QByteArray::fromStdString((tree / "xdg").string()));
         const QString before = QDir::currentPath();

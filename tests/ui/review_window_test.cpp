@@ -16,8 +16,7 @@ class ReviewWindowTest : public QObject {
 private slots:
     void theReviewShowsTheMissedWordsAndDrawsAClickedOne() {
         GameHarness game;
-        game.folder.write("SLESSICO.1",
-                          buildDictionaryFile("test", wordsOf({{0, {"AAA", "EEE"}}})));
+        game.folder.write("SLESSICO.1", buildDictionaryFile("test", WordLists{{{"AAA", "EEE"}}}));
         game.folder.write("ZARMOLO.INI", "Livello=100\r\nTempo=30\r\n");
         game.start([] { QCoreApplication::processEvents(); });
         game.trigger("menuNuovo");

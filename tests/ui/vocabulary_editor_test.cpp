@@ -18,7 +18,7 @@ class VocabularyEditorTest : public QObject {
 
     void open() {
         window = std::make_unique<VocabularyEditorWindow>(
-            editor->context(wordsOf({{1, {"CASA", "MARE"}}})), nullptr);
+            editor->context(WordLists{{{}, {"CASA", "MARE"}}}), nullptr);
         window->show();
         QVERIFY(QTest::qWaitForWindowActive(window.get()));
     }
