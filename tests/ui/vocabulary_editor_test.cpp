@@ -119,17 +119,12 @@ private slots:
         QTimer* timer1 = game.timer("Timer1");
         QTimer* timer2 = game.timer("Timer2");
         bool abandoned = false;
-        std::function<void(int)> leave = [&](int tries) {
-            QWidget* editor = QApplication::activeModalWidget();
-            if (!editor || !editor->isActiveWindow()) {
-                if (tries > 0) QTimer::singleShot(5, [&, tries] { leave(tries - 1); });
-                return;
-            }
-            abandoned = editor->objectName() == "Form5" && !timer1->isActive() &&
-                        !timer2->isActive() && tavolaVuota(game.window->state());
+        whenShown("Form5", [&](QWidget* editor) {
+            QTest::qWaitForWindowActive(editor); // its access keys work only once it is active
+            abandoned =
+                !timer1->isActive() && !timer2->isActive() && tavolaVuota(game.window->state());
             QTest::keyClick(editor, Qt::Key_T, Qt::AltModifier);
-        };
-        leave(400);
+        });
         QTest::keyClick(game.window.get(), Qt::Key_F6);
         QVERIFY(abandoned);
         QVERIFY(timer1->isActive() && timer2->isActive());
