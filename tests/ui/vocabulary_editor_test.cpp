@@ -119,12 +119,14 @@ private slots:
         QTimer* timer1 = game.timer("Timer1");
         QTimer* timer2 = game.timer("Timer2");
         bool abandoned = false;
-        whenShown("Form5", [&](QWidget* editor) {
-            QTest::qWaitForWindowActive(editor); // its access keys work only once it is active
+        std::function<void(QWidget*)> leave = [&](QWidget* editor) {
+            // Its access keys work only once it is the active window.
+            if (!editor->isActiveWindow()) return whenShown("Form5", leave);
             abandoned =
                 !timer1->isActive() && !timer2->isActive() && tavolaVuota(game.window->state());
             QTest::keyClick(editor, Qt::Key_T, Qt::AltModifier);
-        });
+        };
+        whenShown("Form5", leave);
         QTest::keyClick(game.window.get(), Qt::Key_F6);
         QVERIFY(abandoned);
         QVERIFY(timer1->isActive() && timer2->isActive());
