@@ -49,18 +49,14 @@ TEST_F(FileSearchTest, ChoosesTheFolderFromWritabilityAndTheDataBesideTheProgram
     }
 }
 
-TEST_F(FileSearchTest, LooksInThePlayersFolderFirstWhateverTheCaseThenInTheData) {
+TEST_F(FileSearchTest, ReadsFromThePlayerThenTheDataAndWritesOnlyIntoThePlayersFolder) {
     put(player / "zarmolo.ini", "own");
     put(data / "ZARMOLO.INI", "shipped");
-    put(data / "REGPAROL.TXT", "rules");
-    EXPECT_EQ(resolveFileName(player, "ZARMOLO.INI"), player / "zarmolo.ini");
-    EXPECT_EQ(resolveFileName(player, "regparol.txt"), data / "REGPAROL.TXT");
-    EXPECT_EQ(resolveFileName(player, "ZarmPriv.1"), player / "ZarmPriv.1"); // to be written
-}
-
-TEST_F(FileSearchTest, WritesAShippedFileIntoThePlayersFolderAndLeavesTheShippedOneAlone) {
     put(data / "SLESSICO.1", "shipped");
     put(data / "zarMolo.HIS", "A, 1 \r\n");
+    EXPECT_EQ(resolveFileName(player, "ZARMOLO.INI"), player / "zarmolo.ini"); // any case
+    EXPECT_EQ(resolveFileName(player, "slessico.1"), data / "SLESSICO.1");
+    EXPECT_EQ(resolveFileName(player, "ZarmPriv.1"), player / "ZarmPriv.1"); // to be written
     EXPECT_TRUE(writeFileAtomically(resolveFileName(player, "SLESSICO.1"), "rebuilt"));
     EXPECT_TRUE(appendToFile(resolveFileName(player, "zarMolo.HIS"), "B, 2 \r\n"));
 

@@ -29,13 +29,11 @@ private slots:
         OpenFileTable files;
         FakeAlerts alerts;
         int records = 0, firedAt = -1;
-        Dictionary dictionary(
-            state, files, alerts,
-            [&] {
-                ++records;
-                yieldToWindow();
-            },
-            folder.path());
+        const auto yield = [&] {
+            ++records;
+            yieldToWindow();
+        };
+        Dictionary dictionary(state, files, alerts, yield, folder.path());
         dictionary.prendidiz();
         // The tick closes the files, as a submission does, so the scan ends soon after it.
         QTimer::singleShot(2, [&] {

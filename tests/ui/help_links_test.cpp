@@ -1,11 +1,9 @@
 // The "&?" menu and the links of both windows: the help page, the mail and the web site, and the
 // information window opened afresh by F4.
 #include "core/addresses.h"
-#include "tests/support/fakes.h"
-#include "ui/main_window.h"
+#include "tests/support/window_harness.h"
 
-#include <QApplication>
-#include <QtTest>
+#include <QKeySequence>
 
 using namespace griglione;
 using namespace griglione::testing;
@@ -16,92 +14,80 @@ static QWidgetList informationWindows() {
     return found;
 }
 
-static QStringList texts(const std::vector<std::string>& strings) {
-    QStringList list;
-    for (const std::string& s : strings)
-        list << QString::fromStdString(s);
-    return list;
-}
-
 class HelpLinksTest : public QObject {
     Q_OBJECT
-    TempFolder folder;
-    FakeSounds sounds;
-    FakeAlerts alerts;
-    FakeOutside outside;
-    FixedClock clock;
-    ScriptedRandom random;
-    std::unique_ptr<MainWindow> window;
+    std::unique_ptr<GameHarness> game;
 
     // Keys reach the menu's shortcuts only while the main window is the active one.
-    void press(int keys) {
-        window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window.get()));
-        const auto combination = QKeyCombination::fromCombined(keys);
-        QTest::keyClick(window.get(), combination.key(), combination.keyboardModifiers());
+    void press(const QString& keys) {
+        game->window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(game->window.get()));
+        QTest::keySequence(game->window.get(), QKeySequence(keys));
     }
 
 private slots:
     void init() {
-        alerts.shown.clear();
-        outside.opened.clear();
-        window = std::make_unique<MainWindow>(
-            Services{sounds, alerts, outside, clock, random, [] {}, folder.path(), [] {}});
-        window->show();
+        game = std::make_unique<GameHarness>();
+        game->start();
     }
-    void cleanup() { window.reset(); }
+    void cleanup() { game.reset(); }
 
+    // The row's name says what lies beside the game as GRIGLIONE.htm: a "file", a "folder" or
+    // nothing; `input` is keys, or a control to click, of Form3 when it starts with "Form3/".
     void keysAndLinksOpenTheirTargets_data() {
-        QTest::addColumn<QString>("helpFile"); // what lies beside the game: "file", "folder", ""
-        QTest::addColumn<int>("keys");         // 0: a click on `control` instead
-        QTest::addColumn<QString>("control");  // a control of Form3 when it starts with "Form3/"
-        QTest::addColumn<QStringList>("opened");
-        QTest::addColumn<QStringList>("alerts");
-        const QStringList help{QString::fromStdString((folder.path() / "GRIGLIONE.htm").string())};
-        const QStringList missing{"Non trovato file di documentazione/help GRIGLIONE.htm"};
-        const QStringList mail{QString("mailto:") + kEmailAutore}, site{kSitoWeb}, none;
-        const int f1 = Qt::Key_F1, f8 = (Qt::CTRL | Qt::Key_F8).toCombined(),
-                  f9 = (Qt::CTRL | Qt::Key_F9).toCombined();
-        QTest::newRow("help") << "file" << f1 << "" << help << none;
-        QTest::newRow("no help") << "" << f1 << "" << none << missing;
-        QTest::newRow("help is a folder") << "folder" << f1 << "" << none << missing;
-        QTest::newRow("mail") << "" << f8 << "" << mail << none;
-        QTest::newRow("site") << "" << f9 << "" << site << none;
-        QTest::newRow("Label12") << "" << 0 << "Label12" << site << none;
-        QTest::newRow("Form3 Label6") << "" << 0 << "Form3/Label6" << site << none;
-        QTest::newRow("Form3 Label3") << "" << 0 << "Form3/Label3" << mail << none;
-        QTest::newRow("Form3 Picture2") << "" << 0 << "Form3/Picture2" << mail << none;
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<QString>("opened"); // "help" for the help file beside the game
+        QTest::addColumn<QString>("alert");
+        const QString missing = "Non trovato file di documentazione/help GRIGLIONE.htm";
+        const QString mail = QString("mailto:") + kEmailAutore, site = kSitoWeb;
+        QTest::newRow("file") << "F1"
+                              << "help"
+                              << "";
+        QTest::newRow("none") << "F1"
+                              << "" << missing;
+        QTest::newRow("folder") << "F1"
+                                << "" << missing;
+        QTest::newRow("mail") << "Ctrl+F8" << mail << "";
+        QTest::newRow("site") << "Ctrl+F9" << site << "";
+        QTest::newRow("Label12") << "Label12" << site << "";
+        QTest::newRow("Form3 Label6") << "Form3/Label6" << site << "";
+        QTest::newRow("Form3 Label3") << "Form3/Label3" << mail << "";
+        QTest::newRow("Form3 Picture2") << "Form3/Picture2" << mail << "";
     }
     void keysAndLinksOpenTheirTargets() {
-        QFETCH(QString, helpFile);
-        QFETCH(int, keys);
-        QFETCH(QString, control);
-        std::filesystem::remove_all(folder.path() / "GRIGLIONE.htm");
-        if (helpFile == "file") folder.write("GRIGLIONE.htm", "<!DOCTYPE html>");
-        if (helpFile == "folder")
-            std::filesystem::create_directory(folder.path() / "GRIGLIONE.htm");
-        QWidget* owner = window.get();
-        if (control.startsWith("Form3/")) {
-            press(Qt::Key_F4);
+        QFETCH(QString, input);
+        QFETCH(QString, opened);
+        QFETCH(QString, alert);
+        const std::filesystem::path help = game->folder.path() / "GRIGLIONE.htm";
+        if (QTest::currentDataTag() == QString("file")) game->folder.write("GRIGLIONE.htm", "");
+        if (QTest::currentDataTag() == QString("folder")) std::filesystem::create_directory(help);
+        if (opened == "help") opened = QString::fromStdString(help.string());
+        QWidget* owner = game->window.get();
+        if (input.startsWith("Form3/")) {
+            press("F4");
             owner = informationWindows().value(0);
             QVERIFY(owner);
         }
-        if (keys)
-            press(keys);
+        if (input.contains("Label") || input.contains("Picture"))
+            QTest::mouseClick(child(owner, qPrintable(input.section('/', -1))), Qt::LeftButton);
         else
-            QTest::mouseClick(owner->findChild<QWidget*>(control.section('/', -1)), Qt::LeftButton);
-        QTEST(texts(outside.opened), "opened");
-        QTEST(texts(alerts.shown), "alerts");
+            press(input);
+        const auto only = [](const std::vector<std::string>& seen) {
+            return seen.size() == 1 ? QString::fromStdString(seen[0])
+                                    : QString::number(seen.size());
+        };
+        QCOMPARE(only(game->outside.opened), opened.isEmpty() ? "0" : opened);
+        QCOMPARE(only(game->alerts.shown), alert.isEmpty() ? "0" : alert);
     }
 
     void informationWindowIsRecreatedAndClosesTheMessage() {
-        press(Qt::Key_F4);
-        window->messages().mostraMessaggio({"INFO!", "Prova", "testo"}, false);
-        press(Qt::Key_F4);
+        press("F4");
+        game->window->messages().mostraMessaggio({"INFO!", "Prova", "testo"}, false);
+        press("F4");
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCOMPARE(informationWindows().size(), 1);
         QVERIFY(QTest::qWaitForWindowActive(informationWindows().first()));
-        QTRY_VERIFY(!window->messages().window());
+        QTRY_VERIFY(!game->window->messages().window());
     }
 };
 

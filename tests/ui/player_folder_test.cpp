@@ -3,21 +3,12 @@
 #include "board/board_layout.h"
 #include "core/atomic_file.h"
 #include "core/file_names.h"
-#include "core/mixing_random.h"
-#include "dictionary/dictionary_format.h"
 #include "platform/game_folder.h"
-#include "tests/support/fakes.h"
+#include "tests/support/window_harness.h"
 #include "ui/die_cell.h"
-#include "ui/main_window.h"
 
-#include <QAction>
-#include <QApplication>
 #include <QDir>
 #include <QRadioButton>
-#include <QTimer>
-#include <QtTest>
-
-#include <memory>
 
 using namespace griglione;
 using namespace griglione::testing;
@@ -26,60 +17,41 @@ namespace fs = std::filesystem;
 class PlayerFolderTest : public QObject {
     Q_OBJECT
 
-    FakeSounds sounds;
-    FakeAlerts alerts;
-    FakeOutside outside;
-    FixedClock clock;
-    MixingRandom random{7};
-
 private slots:
     void changesAreKeptInThePlayersFolder() {
-        TempFolder tree;
-        const fs::path program = tree.path() / "games";
-        const fs::path data = tree.path() / "share/games/griglione";
-        const fs::path player = tree.path() / "xdg/griglione";
+        GameHarness game;
+        const fs::path tree = game.folder.path(), program = tree / "games",
+                       data = tree / "share/games/griglione", player = tree / "xdg/griglione";
         fs::create_directories(program);
         fs::create_directories(data);
-        WordLists words;
-        words[0] = {"ERA"};
-        std::ofstream(data / "SLESSICO.1", std::ios::binary) << buildDictionaryFile("test", words);
+        std::ofstream(data / "SLESSICO.1", std::ios::binary)
+            << buildDictionaryFile("test", WordLists{{{"ERA"}}});
         fs::permissions(program, fs::perms::owner_write, fs::perm_options::remove);
-        qputenv("XDG_DATA_HOME", QByteArray::fromStdString((tree.path() / "xdg").string()));
+        qputenv("XDG_DATA_HOME", QByteArray::fromStdString((tree / "xdg").string()));
         const QString before = QDir::currentPath();
 
         QVERIFY(settleGameFolder(QString::fromStdString(program.string())));
         QCOMPARE(fs::current_path(), player);
-        int terminated = 0;
-        auto window = std::make_unique<MainWindow>(
-            Services{sounds, alerts, outside, clock, random, [] {}, ".", [&] { ++terminated; }});
-        window->startUp();
-        window->show();
-        QCOMPARE(terminated, 0); // the shipped dictionary was found
+        game.start([] {}, ".");
+        QCOMPARE(game.terminated, 0); // the shipped dictionary was found
 
-        window->findChild<QAction*>("MenuSuono")->trigger();
-        window->findChild<QAction*>("menuNuovo")->trigger();
-        window->findChild<QTimer*>("Timer2")->stop();
+        game.trigger("MenuSuono");
+        game.trigger("menuNuovo");
+        game.timer("Timer2")->stop();
         for (int n = 0; n < 5; ++n)
-            window->state().immagineCella[n] = dieName("ZEBRA"[n], 1);
-        window->changed(Aspect::Board);
+            game.window->state().immagineCella[n] = dieName("ZEBRA"[n], 1);
+        game.window->changed(Aspect::Board);
         for (int n = 0; n < 5; ++n)
-            QTest::mouseClick(
-                window->findChild<DieCell*>(qPrintable(QString("Picture1_%1").arg(n))),
-                Qt::LeftButton);
-        QTimer::singleShot(0, [] {
-            QWidget* confirm = QApplication::activeModalWidget();
-            QVERIFY(confirm && confirm->objectName() == "Form6");
-            confirm->findChild<QRadioButton*>("Option1")->setChecked(true);
-            confirm->findChild<QAbstractButton*>("Command1")->click();
+            QTest::mouseClick(game.get(qPrintable(QString("Picture1_%1").arg(n))), Qt::LeftButton);
+        whenShown("Form6", [](QWidget* confirm) {
+            child<QRadioButton>(confirm, "Option1")->setChecked(true);
+            child<QAbstractButton>(confirm, "Command1")->click();
         });
-        window->findChild<QAbstractButton*>("Command2")->click();
-        window->state().puntiGiocatore = 1500;
-        QTimer::singleShot(0, [] {
-            for (QWidget* shown : QApplication::topLevelWidgets())
-                if (shown->objectName() == "Form4" && shown->isVisible()) shown->close();
-        });
-        window->findChild<QAction*>("MenuFine")->trigger();
-        window.reset();
+        game.get<QAbstractButton>("Command2")->click();
+        game.window->state().puntiGiocatore = 1500;
+        whenShown("Form4", [](QWidget* records) { records->close(); });
+        game.trigger("MenuFine");
+        game.window.reset();
 
         QDir::setCurrent(before);
         setFileSearchOrder({});

@@ -1,59 +1,30 @@
 // A short match ends; from the end-of-match window the review of the board opens, a word is
 // clicked and its path drawn, and closing the review leaves the end-of-match window as it was.
 #include "board/board_layout.h"
-#include "core/mixing_random.h"
-#include "dictionary/dictionary_format.h"
-#include "tests/support/fakes.h"
-#include "ui/main_window.h"
+#include "tests/support/window_harness.h"
 
-#include <QAction>
-#include <QApplication>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QtTest>
 
 using namespace griglione;
 using namespace griglione::testing;
-
-namespace {
-
-void whenShown(const QString& name, std::function<void(QWidget*)> action, int tries = 2000) {
-    QTimer::singleShot(5, [=] {
-        for (QWidget* w : QApplication::topLevelWidgets())
-            if (w->objectName() == name && w->isVisible()) return action(w);
-        if (tries > 0) whenShown(name, action, tries - 1);
-    });
-}
-
-} // namespace
 
 class ReviewWindowTest : public QObject {
     Q_OBJECT
 
 private slots:
     void theReviewShowsTheMissedWordsAndDrawsAClickedOne() {
-        TempFolder folder;
-        WordLists words;
-        words[0] = {"AAA", "EEE"};
-        folder.write("SLESSICO.1", buildDictionaryFile("test", words));
-        folder.write("ZARMOLO.INI", "Livello=100\r\nTempo=30\r\n");
-        FakeSounds sounds;
-        FakeAlerts alerts;
-        FakeOutside outside;
-        FixedClock clock;
-        MixingRandom random{5};
-        MainWindow window(Services{sounds, alerts, outside, clock, random,
-                                   [] { QCoreApplication::processEvents(); }, folder.path(),
-                                   [] {}});
-        window.startUp();
-        window.show();
-        window.findChild<QAction*>("menuNuovo")->trigger();
+        GameHarness game;
+        game.folder.write("SLESSICO.1", buildDictionaryFile("test", WordLists{{{"AAA", "EEE"}}}));
+        game.folder.write("ZARMOLO.INI", "Livello=100\r\nTempo=30\r\n");
+        game.start([] { QCoreApplication::processEvents(); });
+        game.trigger("menuNuovo");
         for (int n = 0; n < kCells; ++n)
-            window.state().immagineCella[n] = dieName(n % 2 ? 'E' : 'A', 1);
-        window.changed(Aspect::Board);
-        auto* timer1 = window.findChild<QTimer*>("Timer1");
-        auto* timer2 = window.findChild<QTimer*>("Timer2");
+            game.window->state().immagineCella[n] = dieName(n % 2 ? 'E' : 'A', 1);
+        game.window->changed(Aspect::Board);
+        QTimer* timer1 = game.timer("Timer1");
+        QTimer* timer2 = game.timer("Timer2");
         timer1->setInterval(15);
         timer2->setInterval(1000000); // the computer finds nothing
 
@@ -62,18 +33,18 @@ private slots:
         bool timersStopped = false, backOnResult = false;
         whenShown("Form2", [&](QWidget* result) {
             whenShown("Form10", [&](QWidget* review) {
-                total = review->findChild<QLabel*>("Label1")->text();
-                heading = review->findChild<QLabel*>("Label4")->text();
-                auto* missed = review->findChild<QListWidget*>("List3");
+                total = child<QLabel>(review, "Label1")->text();
+                heading = child<QLabel>(review, "Label4")->text();
+                auto* missed = child<QListWidget>(review, "List3");
                 QTest::mouseClick(missed->viewport(), Qt::LeftButton, {},
                                   missed->visualItemRect(missed->item(0)).center());
-                board = review->findChild<QWidget*>("board")->grab().toImage();
+                board = child(review, "board")->grab().toImage();
                 timersStopped = !timer1->isActive() && !timer2->isActive();
-                review->findChild<QPushButton*>("Command2")->click();
+                child<QPushButton>(review, "Command2")->click();
             });
-            result->findChild<QPushButton*>("Command3")->click();
+            child<QPushButton>(result, "Command3")->click();
             backOnResult = result->isVisible() && !timer1->isActive();
-            result->findChild<QPushButton*>("Command1")->click();
+            child<QPushButton>(result, "Command1")->click();
         });
         QTRY_VERIFY_WITH_TIMEOUT(backOnResult, 10000);
         QCOMPARE(total, QString("Il tabellone nascondeva 2 parole per 360 punti in tutto."));

@@ -2,66 +2,33 @@
 // deletions and the selection that follows, the file written only by "&Torna al gioco", and the
 // match abandoned while the editor is open and started afresh when it closes.
 #include "board/board_layout.h"
-#include "core/mixing_random.h"
-#include "tests/support/fakes.h"
-#include "ui/main_window.h"
+#include "tests/support/window_harness.h"
 #include "ui/vocabulary_editor_window.h"
 
-#include <QAction>
-#include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QtTest>
-
-#include <deque>
-#include <memory>
 
 using namespace griglione;
 using namespace griglione::testing;
 
 class VocabularyEditorTest : public QObject {
     Q_OBJECT
-
-    std::unique_ptr<TempFolder> folder;
-    GameState state;
-    OpenFileTable files;
-    FakeAlerts alerts;
-    std::deque<bool> answers;
-    std::vector<std::string> asked;
-    int terminated = 0;
-    std::unique_ptr<Dictionary> dictionary;
+    std::unique_ptr<EditorHarness> editor;
     std::unique_ptr<VocabularyEditorWindow> window;
 
     void open() {
-        WordLists words;
-        words[1] = {"CASA", "MARE"};
-        folder->write("SLESSICO.1", buildDictionaryFile("test", words));
-        dictionary = std::make_unique<Dictionary>(
-            state, files, alerts, [] {}, folder->path());
-        dictionary->prendidiz();
-        const auto ask = [this](const std::string& text) {
-            asked.push_back(text);
-            const bool answer = answers.front();
-            answers.pop_front();
-            return answer;
-        };
         window = std::make_unique<VocabularyEditorWindow>(
-            EditorContext{state, *dictionary, files, alerts, ask, [] {}, [] {},
-                          [this] { ++terminated; }, folder->path()},
-            nullptr);
+            editor->context(WordLists{{{}, {"CASA", "MARE"}}}), nullptr);
         window->show();
         QVERIFY(QTest::qWaitForWindowActive(window.get()));
     }
-    QLineEdit* entry() { return window->findChild<QLineEdit*>("Text1"); }
-    QListWidget* list() { return window->findChild<QListWidget*>("List1"); }
+    QLineEdit* entry() { return child<QLineEdit>(window.get(), "Text1"); }
+    QListWidget* list() { return child<QListWidget>(window.get(), "List1"); }
     QStringList words() {
         QStringList all;
         for (int i = 0; i < list()->count(); ++i)
             all << list()->item(i)->text();
         return all;
-    }
-    void key(Qt::Key k, Qt::KeyboardModifiers m = Qt::NoModifier) {
-        QTest::keyClick(QApplication::focusWidget(), k, m);
     }
     // "&Nuova parola", the word and Enter.
     void add(const char* word) {
@@ -72,41 +39,38 @@ class VocabularyEditorTest : public QObject {
     }
 
 private slots:
-    void init() {
-        folder = std::make_unique<TempFolder>();
-        alerts.shown.clear();
-        asked.clear();
-        terminated = 0;
-    }
+    void init() { editor = std::make_unique<EditorHarness>(); }
     void cleanup() {
         window.reset();
-        folder.reset();
+        editor.reset();
     }
 
     void addsAndDeletesByKeysAndSavesOnlyOnReturnToTheGame() {
-        folder->write("ZarmPriv.1", "zeta\r\nALBERO\r\n");
+        editor->folder.write("ZarmPriv.1", "zeta\r\nALBERO\r\n");
         open();
         QCOMPARE(words(), QStringList({"ALBERO", "ZETA"}));
         QCOMPARE(list()->currentRow(), 0);
 
-        answers = {true}; // two letters: go on correcting
+        editor->answers = {true}; // two letters: go on correcting
         add("ab");
-        QCOMPARE(asked.back(),
+        QCOMPARE(editor->asked.back(),
                  "La parola deve essere composta da 3 a 10 caratteri, vuoi continuare?");
         QVERIFY(entry()->isVisible() && entry()->hasFocus());
         QCOMPARE(entry()->text(), QString("ab"));
         key(Qt::Key_Escape); // empties the field and closes the entry without a word
         QVERIFY(!entry()->isVisible());
 
-        add("casa");
-        QCOMPARE(alerts.shown.back(), "Parola già inserita nel vocabolario generale!");
-        add("Zeta");
-        QCOMPARE(alerts.shown.back(), "Parola già inserita nel vocabolario personale!");
-        add("jazz");
-        QCOMPARE(alerts.shown.back(), "Sono stati utilizzati uno o più caratteri non contemplati "
-                                      "dall'alfabeto italiano oppure caratteri numerici!");
+        const char* const refused[][2] = {
+            {"casa", "Parola già inserita nel vocabolario generale!"},
+            {"Zeta", "Parola già inserita nel vocabolario personale!"},
+            {"jazz", "Sono stati utilizzati uno o più caratteri non contemplati dall'alfabeto "
+                     "italiano oppure caratteri numerici!"}};
+        for (const auto& [word, message] : refused) {
+            add(word);
+            QCOMPARE(editor->lastAlert(), QString(message));
+        }
         add("luna");
-        QCOMPARE(alerts.shown.size(), std::size_t(3));
+        QCOMPARE(editor->alerts.shown.size(), std::size_t(3));
         QCOMPARE(words(), QStringList({"ALBERO", "LUNA", "ZETA"}));
 
         key(Qt::Key_C, Qt::AltModifier); // the first word: the new first one is selected
@@ -117,70 +81,57 @@ private slots:
         key(Qt::Key_C, Qt::AltModifier); // the last word: the one before it is selected
         QTRY_COMPARE(words(), QStringList({"LUNA"}));
         QCOMPARE(list()->currentRow(), 0);
-        QCOMPARE(folder->read("ZarmPriv.1"), "zeta\r\nALBERO\r\n");
+        QCOMPARE(editor->folder.read("ZarmPriv.1"), "zeta\r\nALBERO\r\n");
 
         key(Qt::Key_T, Qt::AltModifier);
         QTRY_VERIFY(!window->isVisible());
-        QCOMPARE(folder->read("ZarmPriv.1"), "LUNA\r\n");
+        QCOMPARE(editor->folder.read("ZarmPriv.1"), "LUNA\r\n");
         QCOMPARE(window->result(), int(QDialog::Accepted));
     }
 
     void aMissingVocabularyIsCreatedAndAFailedSaveEndsTheProgram() {
         open();
-        QVERIFY(folder->exists("ZarmPriv.1"));
-        QCOMPARE(folder->read("ZarmPriv.1"), "");
+        QCOMPARE(editor->folder.exists("ZarmPriv.1") ? editor->folder.read("ZarmPriv.1") : "-", "");
         key(Qt::Key_C, Qt::AltModifier);
-        QTRY_COMPARE(alerts.shown.size(), std::size_t(1));
-        QCOMPARE(alerts.shown[0], "Non ci sono parole da cancellare dal vocabolario privato!");
+        QTRY_COMPARE(editor->lastAlert(),
+                     QString("Non ci sono parole da cancellare dal vocabolario privato!"));
         key(Qt::Key_H, Qt::AltModifier); // no rules file: the editor's own message, then no text
-        QTRY_COMPARE(alerts.shown.size(), std::size_t(3));
-        QCOMPARE(alerts.shown[1], "ERRORE 0001: File contenente le regole sulle parole non "
-                                  "trovato: REGPAROL.TCT");
-        QCOMPARE(alerts.shown[2], "");
+        QTRY_COMPARE(editor->alerts.shown.size(), std::size_t(3));
+        QCOMPARE(editor->alerts.shown[1], "ERRORE 0001: File contenente le regole sulle parole "
+                                          "non trovato: REGPAROL.TCT");
+        QCOMPARE(editor->lastAlert(), QString());
 
-        std::filesystem::remove(folder->path() / "ZarmPriv.1");
-        std::filesystem::create_directory(folder->path() / "ZarmPriv.1");
-        folder->write("ZarmPriv.1/x", "x");
+        std::filesystem::remove(editor->folder.path() / "ZarmPriv.1");
+        std::filesystem::create_directory(editor->folder.path() / "ZarmPriv.1");
+        editor->folder.write("ZarmPriv.1/x", "x");
         key(Qt::Key_T, Qt::AltModifier);
-        QTRY_COMPARE(terminated, 1);
-        QCOMPARE(alerts.shown.back(),
+        QTRY_COMPARE(editor->terminated, 1);
+        QCOMPARE(editor->alerts.shown.back(),
                  "Errore non e' possibile scrivere sul disco nella posizione: " +
-                     folder->path().string() + " - Il programma verra' terminato.");
+                     editor->folder.path().string() + " - Il programma verra' terminato.");
     }
 
     void theMenuAbandonsTheMatchAndStartsANewOneWhenTheEditorCloses() {
-        WordLists words;
-        words[1] = {"CASA"};
-        folder->write("SLESSICO.1", buildDictionaryFile("test", words));
-        FakeSounds sounds;
-        FakeOutside outside;
-        FixedClock clock;
-        MixingRandom random{7};
-        MainWindow main(
-            Services{sounds, alerts, outside, clock, random, [] {}, folder->path(), [] {}});
-        main.startUp();
-        main.show();
-        QVERIFY(QTest::qWaitForWindowActive(&main));
-        main.findChild<QAction*>("menuNuovo")->trigger();
-        auto* timer1 = main.findChild<QTimer*>("Timer1");
-        auto* timer2 = main.findChild<QTimer*>("Timer2");
+        GameHarness game;
+        game.start();
+        QVERIFY(QTest::qWaitForWindowActive(game.window.get()));
+        game.trigger("menuNuovo");
+        QTimer* timer1 = game.timer("Timer1");
+        QTimer* timer2 = game.timer("Timer2");
         bool abandoned = false;
-        std::function<void(int)> leave = [&](int tries) {
-            QWidget* editor = QApplication::activeModalWidget();
-            if (!editor || !editor->isActiveWindow()) {
-                if (tries > 0) QTimer::singleShot(5, [&, tries] { leave(tries - 1); });
-                return;
-            }
-            abandoned = editor->objectName() == "Form5" && !timer1->isActive() &&
-                        !timer2->isActive() && tavolaVuota(main.state());
+        std::function<void(QWidget*)> leave = [&](QWidget* editor) {
+            // Its access keys work only once it is the active window.
+            if (!editor->isActiveWindow()) return whenShown("Form5", leave);
+            abandoned =
+                !timer1->isActive() && !timer2->isActive() && tavolaVuota(game.window->state());
             QTest::keyClick(editor, Qt::Key_T, Qt::AltModifier);
         };
-        leave(400);
-        QTest::keyClick(&main, Qt::Key_F6);
+        whenShown("Form5", leave);
+        QTest::keyClick(game.window.get(), Qt::Key_F6);
         QVERIFY(abandoned);
         QVERIFY(timer1->isActive() && timer2->isActive());
-        QVERIFY(!tavolaVuota(main.state()));
-        QCOMPARE(folder->read("ZarmPriv.1"), std::string());
+        QVERIFY(!tavolaVuota(game.window->state()));
+        QCOMPARE(game.folder.read("ZarmPriv.1"), std::string());
     }
 };
 

@@ -1,0 +1,116 @@
+// The setup the window tests share: a main window over a temporary folder with recording fakes,
+// or one of the vocabulary editors over a small dictionary with scripted answers, and a way to
+// act on a modal window from inside its own event loop.
+#pragma once
+
+#include "core/mixing_random.h"
+#include "dictionary/dictionary_format.h"
+#include "tests/support/fakes.h"
+#include "ui/editor_context.h"
+#include "ui/main_window.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QTimer>
+#include <QtTest>
+
+#include <deque>
+#include <functional>
+#include <memory>
+
+namespace griglione::testing {
+
+// The visible top-level window of that objectName, or nullptr.
+inline QWidget* shownWindow(const QString& name) {
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w->objectName() == name && w->isVisible()) return w;
+    return nullptr;
+}
+
+// Runs `action` on the window named `name` once it shows; polling from the event loop lets it
+// run inside a modal window's own loop, which the test's code cannot reach otherwise.
+inline void whenShown(const QString& name, std::function<void(QWidget*)> action, int tries = 2000) {
+    QTimer::singleShot(5, [=] {
+        if (QWidget* w = shownWindow(name)) return action(w);
+        if (tries > 0) whenShown(name, action, tries - 1);
+    });
+}
+
+template <typename T = QWidget> T* child(const QObject* parent, const char* name) {
+    T* found = parent->findChild<T*>(name);
+    if (!found) qFatal("no child %s", name);
+    return found;
+}
+
+// A started and shown main window; its folder holds a dictionary of "ERA" unless the test
+// writes another one before start().
+struct GameHarness {
+    TempFolder folder;
+    FakeSounds sounds;
+    FakeAlerts alerts;
+    FakeOutside outside;
+    FixedClock clock;
+    MixingRandom random{7};
+    int terminated = 0;
+    std::unique_ptr<MainWindow> window;
+
+    void start(
+        std::function<void()> yield = [] {},
+        const std::filesystem::path& where = std::filesystem::path()) {
+        if (where.empty() && !folder.exists("SLESSICO.1"))
+            folder.write("SLESSICO.1", buildDictionaryFile("test", WordLists{{{"ERA"}}}));
+        window = std::make_unique<MainWindow>(
+            Services{sounds, alerts, outside, clock, random, std::move(yield),
+                     where.empty() ? folder.path() : where, [this] { ++terminated; }});
+        window->startUp();
+        window->show();
+    }
+    template <typename T = QWidget> T* get(const char* name) {
+        return child<T>(window.get(), name);
+    }
+    void trigger(const char* action) { get<QAction>(action)->trigger(); }
+    QTimer* timer(const char* name) { return get<QTimer>(name); }
+};
+
+// What an editor window needs, with the answers of its OK / Cancel boxes scripted and recorded.
+struct EditorHarness {
+    TempFolder folder;
+    GameState state;
+    OpenFileTable files;
+    FakeAlerts alerts;
+    std::deque<bool> answers;
+    std::vector<std::string> asked;
+    std::function<void()> onYield;
+    int terminated = 0;
+    std::unique_ptr<Dictionary> dictionary;
+
+    EditorContext context(const WordLists& words) {
+        folder.write("SLESSICO.1", buildDictionaryFile("test", words));
+        dictionary = std::make_unique<Dictionary>(
+            state, files, alerts, [] {}, folder.path());
+        dictionary->prendidiz();
+        const auto ask = [this](const std::string& text) {
+            asked.push_back(text);
+            const bool answer = answers.at(0);
+            answers.pop_front();
+            return answer;
+        };
+        const auto yield = [this] {
+            QCoreApplication::processEvents();
+            if (onYield) onYield();
+        };
+        return EditorContext{state,        *dictionary, files, alerts,
+                             ask,          yield,       [] {}, [this] { ++terminated; },
+                             folder.path()};
+    }
+    QString lastAlert() const {
+        return QString::fromStdString(alerts.shown.empty() ? "" : alerts.shown.back());
+    }
+};
+
+// A key for the widget that has the focus, as the player would type it.
+inline void key(Qt::Key k, Qt::KeyboardModifiers m = Qt::NoModifier) {
+    QTest::keyClick(QApplication::focusWidget(), k, m);
+}
+
+} // namespace griglione::testing
