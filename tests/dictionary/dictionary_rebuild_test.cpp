@@ -44,7 +44,6 @@ TEST(DictionaryRebuild, LaysBlocksOutFrom440InLengthOrderAndDropsWhatTheListsLac
     TempFolder folder;
     folder.write("SLESSICO.1", old);
     WordLists lists = loadLists(folder);
-    EXPECT_EQ(lists[0], (std::vector<std::string>{"ABC", "ACE"}));
     EXPECT_EQ(lists[3], (std::vector<std::string>{"CASTEL"})); // whole records only
     lists[2].clear();
     ASSERT_TRUE(rebuildDictionary(folder.path(), 1, "n", lists));
