@@ -13,31 +13,19 @@ namespace griglione {
 namespace {
 
 TEST(WordFilter, AdmitsFoldsAndRefusesSourceWords) {
-    const Language it = Language::Italian, en = Language::English, la = Language::Latin;
-    struct Case {
-        const char* source;
-        Language language;
-        const char* expected; // empty: refused
-    } const cases[] = {
-        {"perché", it, "PERCHE"},
-        {"cafe\xCC\x81", en, "CAFE"}, // e + combining acute
-        {"ÀNCORA", it, ""},           // a capital, accented or not, marks a name
-        {"dell'acqua", it, ""},
-        {"mp3", it, ""},
-        {"re", it, ""},                   // too short
-        {"abbassavate", it, ""},          // 11 letters
-        {"piùùùùùùùù", it, "PIUUUUUUUU"}, // counted after folding
-        {"yoga", it, ""},
-        {"yoga", la, "YOGA"},
-        {"\xC3", it, ""},    // cut UTF-8 sequence
-        {"ab\x80z", en, ""}, // stray continuation byte
-        {"слово", en, ""},   // another script
-    };
-    for (const Case& c : cases)
-        EXPECT_EQ(admitWord(c.source, c.language).value_or(""), c.expected) << c.source;
-    // Latin in the school spelling, V for the consonant and U for the vowel; both where a letter
-    // after a consonant and before a vowel can be either.
-    for (const char* word : {"amavit", "suavis", "silva", "silua"})
+    const Language it = Language::Italian, la = Language::Latin;
+    // Folded: combining accents dropped, the length counted after folding.
+    for (const auto& [source, expected] :
+         {std::pair{"perché", "PERCHE"}, {"cafe\xCC\x81", "CAFE"}, {"piùùùùùùùù", "PIUUUUUUUU"}})
+        EXPECT_EQ(admitWord(source, it).value_or(""), expected) << source;
+    // Refused: a capital, accented or not, marks a name; too short, 11 letters; a cut UTF-8
+    // sequence, a stray continuation byte, another script.
+    for (const char* word :
+         {"ÀNCORA", "dell'acqua", "mp3", "re", "abbassavate", "yoga", "\xC3", "ab\x80z", "слово"})
+        EXPECT_FALSE(admitWord(word, it)) << word;
+    // Latin in all 26 letters and in the school spelling, V for the consonant and U for the vowel;
+    // both where a letter after a consonant and before a vowel can be either.
+    for (const char* word : {"yoga", "amavit", "suavis", "silva", "silua"})
         EXPECT_TRUE(admitWord(word, la)) << word;
     for (const char* word : {"amauit", "uirum", "virvm", "amatv", "qvae", "iuuenis"})
         EXPECT_FALSE(admitWord(word, la)) << word;
@@ -49,20 +37,12 @@ TEST(WordExclusion, RefusesListWordsWithTheirFormsWholeWordsOnlyUnlessAllowed) {
         english.block(word);
     for (const char* word : {"NEGRO", "mona lisa", "fottere", "cagare", "pisciare", "chiavare"})
         italian.block(word); // a list in capitals; a phrase is no word
-    const auto unread = italian.readList("# comment\n"
-                                         "block it,la  crucco terrone # the rest is a comment\n"
-                                         "block en frocio\n"
-                                         "allow * chiavare\r\n"
-                                         "allow it\n"
-                                         "keep it casa\n"
-                                         "allow la,it brr vii\n");
-    EXPECT_EQ(unread, (std::vector<int>{5, 6}));
-    struct Case {
-        const WordExclusion& exclusion;
-        const char* words;
-        Refusal refusal;
-    };
-    const Case cases[] = {
+    // Lines 5 and 6 are not understood.
+    EXPECT_EQ(italian.readList("# comment\nblock it,la  crucco terrone # the rest is a comment\n"
+                               "block en frocio\nallow * chiavare\r\nallow it\nkeep it casa\n"
+                               "allow la,it brr vii\n"),
+              (std::vector<int>{5, 6}));
+    const std::tuple<const WordExclusion&, const char*, Refusal> cases[] = {
         {english, "SLUT SLUTS BITCHES HUSSIES DAGOS DAGOES SPICS", Refusal::Listed},
         {english, "SLUTES SPICES SWOP DAYS", Refusal::None},
         {italian, "NEGRI CRUCCHI CRUCCA CRUCCHE TERRONI TERRONA", Refusal::Listed},
@@ -73,10 +53,10 @@ TEST(WordExclusion, RefusesListWordsWithTheirFormsWholeWordsOnlyUnlessAllowed) {
         {english, "III XIV XXXVIII DIV MMMCMXCIX MIX CIV", Refusal::RomanNumeral},
         {english, "IIII IC VIIII CIVIL LIVID MILD DIM", Refusal::None},
     };
-    for (const Case& c : cases) {
-        std::istringstream words(c.words);
+    for (const auto& [exclusion, list, refusal] : cases) {
+        std::istringstream words(list);
         for (std::string word; words >> word;)
-            EXPECT_EQ(c.exclusion.refusal(word), c.refusal) << word;
+            EXPECT_EQ(exclusion.refusal(word), refusal) << word;
     }
 }
 

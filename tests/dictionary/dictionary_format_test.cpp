@@ -6,56 +6,39 @@
 namespace griglione {
 namespace {
 
-TEST(DictionaryFormat, WritesTheSmallestExampleExactly) {
+TEST(DictionaryFormat, WritesTheNoticeTheIndexAndTheBlocksFrom440Exactly) {
     WordLists words;
     words[0] = {"ABC", "ACE"};
     words[1] = {"ABBA"};
-    const std::string file = buildDictionaryFile("Prova", words);
-    ASSERT_EQ(file.size(), 455u);
-    EXPECT_EQ(file.substr(0, 199), "Prova" + std::string(194, ' '));
-    EXPECT_EQ(file[199], '\0');
-    EXPECT_EQ(file.substr(200, 16), "     440     446");
-    EXPECT_EQ(file.substr(216, 16), "     446     450");
-    EXPECT_EQ(file.substr(232, 439 - 232), std::string(439 - 232, '\0'));
-    EXPECT_EQ(file.substr(439, 10), "ABCACEABBA");
-    EXPECT_EQ(file.substr(449), std::string(6, '\0'));
-}
-
-TEST(DictionaryFormat, EmptyLengthsKeepZeroEntriesAndBlocksFollowEachOther) {
-    WordLists words;
-    words[2] = {"CASAL", "WORDS", "XY"}; // a word of the wrong length is skipped
+    const std::string z(1, '\0');
+    EXPECT_EQ(buildDictionaryFile("Prova", words),
+              "Prova" + std::string(194, ' ') + z + "     440     446     446     450" +
+                  std::string(207, '\0') + "ABCACEABBA" + std::string(6, '\0'));
+    // Empty lengths keep zero entries; a word of the wrong length is skipped.
+    words = {};
+    words[2] = {"CASAL", "WORDS", "XY"};
     words[7] = {"ABCDEFGHIJ"};
-    const std::string file = buildDictionaryFile("", words);
-    EXPECT_EQ(file.substr(200, 32), std::string(32, '\0'));
-    EXPECT_EQ(file.substr(232, 16), "     440     450");
-    EXPECT_EQ(file.substr(312, 16), "     450     460");
-    EXPECT_EQ(file.size(), 459u);
-    EXPECT_EQ(file.substr(439), "CASALWORDSABCDEFGHIJ");
-    EXPECT_EQ(buildDictionaryFile("", {}).size(), 455u);
+    EXPECT_EQ(buildDictionaryFile(std::string(250, 'x'), words),
+              std::string(199, 'x') + z + std::string(32, '\0') + "     440     450" +
+                  std::string(64, '\0') + "     450     460" + std::string(111, '\0') +
+                  "CASALWORDSABCDEFGHIJ");
+    EXPECT_EQ(buildDictionaryFile("", {}), std::string(199, ' ') + std::string(256, '\0'));
+    // Positions past the index limit: no file.
+    words[7].assign(1'000'000, std::string(10, 'A'));
+    EXPECT_TRUE(buildDictionaryFile("", words).empty());
+    words[7].resize(999'000);
+    EXPECT_FALSE(buildDictionaryFile("", words).empty());
 }
 
-TEST(DictionaryFormat, NoticeIsCutOrPaddedTo199) {
-    EXPECT_EQ(noticeText(std::string(250, 'x')), std::string(199, 'x'));
-    EXPECT_EQ(noticeText("ab").size(), 199u);
-}
-
-TEST(DictionaryFormat, ReadsFieldsOfBlanksDigitsAndZeroBytes) {
+TEST(DictionaryFormat, ReadsFieldsOfBlanksDigitsAndZeroBytesAndDamagedIndexesGiveNoWords) {
     const std::pair<std::string, std::int64_t> cases[] = {
-        {"     440", 440},
+        {"     440", 440},         {"440     ", 440}, {"  12ab34", 12},      {"xx", 0},
+        {"        ", 0},           {"", 0},           {" 9999999", 9999999}, {"99999999", 99999999},
         {std::string(8, '\0'), 0},
-        {"440     ", 440},
-        {"  12ab34", 12},
-        {"xx", 0},
-        {"        ", 0},
-        {" 9999999", 9999999},
-        {"", 0},
-        {"99999999", 99999999},
     };
     for (const auto& [field, value] : cases)
         EXPECT_EQ(parseIndexField(field), value) << field;
-}
-
-TEST(DictionaryFormat, DamagedIndexesGiveNoWords) {
+    // Damaged indexes give no words.
     std::string head(440, '\0');
     head.replace(200, 16, "     500     440"); // end before start
     head.replace(216, 16, "garbage!garbage!");
@@ -63,19 +46,6 @@ TEST(DictionaryFormat, DamagedIndexesGiveNoWords) {
     EXPECT_EQ(index.contaGruppo(3), 0);
     EXPECT_EQ(index.contaGruppo(4), 0);
     EXPECT_EQ(parseIndex("short").contaGruppo(3), 0);
-}
-
-TEST(DictionaryFormat, RefusesPositionsPastTheIndexLimit) {
-    WordLists words;
-    for (int i = 0; i < 1'000'000; ++i) {
-        std::string w(10, 'A');
-        for (int k = 9, n = i; k >= 0 && n; --k, n /= 26)
-            w[k] = static_cast<char>('A' + n % 26);
-        words[7].push_back(w);
-    }
-    EXPECT_TRUE(buildDictionaryFile("", words).empty());
-    words[7].resize(999'000);
-    EXPECT_FALSE(buildDictionaryFile("", words).empty());
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <utility>
 
 namespace griglione {
 namespace {
@@ -21,11 +22,11 @@ protected:
     LookupTest()
         : dictionary(
               state, files, alerts, [this] { onYield(); }, folder.path()) {
-        WordLists words;
-        words[0] = {"ABC"};          // a block of one word
-        words[1] = {"CASA", "MARE"}; // two words
-        words[2] = {"AAAAA", "BBBBB", "CCCCC", "DDDDD", "EEEEE", "FFFFF", "GGGGG"};
-        folder.write("SLESSICO.1", buildDictionaryFile("test", words));
+        // Blocks of one, two and seven words.
+        WordLists lists{{{"ABC"},
+                         {"CASA", "MARE"},
+                         {"AAAAA", "BBBBB", "CCCCC", "DDDDD", "EEEEE", "FFFFF", "GGGGG"}}};
+        folder.write("SLESSICO.1", buildDictionaryFile("test", lists));
         dictionary.prendidiz();
     }
     void onYield() {
@@ -42,65 +43,68 @@ protected:
     Dictionary dictionary;
 };
 
-TEST_F(LookupTest, BothSearchesFindEveryWordOfSmallBlocks) {
-    for (const char* word : {"ABC", "CASA", "MARE", "AAAAA", "DDDDD", "GGGGG"}) {
-        EXPECT_TRUE(dictionary.trovaInDizionario(word)) << word;
-        EXPECT_EQ(dictionary.verificaParola(word), "SI") << word;
-        EXPECT_EQ(dictionary.cercaParola(word), "SI") << word;
+TEST_F(LookupTest, BothSearchesFindEveryWordOfSmallBlocksWithAYieldBeforeEachRecordRead) {
+    // Six words of the file, then seven that are not.
+    const char* const words[] = {"ABC", "CASA", "MARE", "AAAAA", "DDDDD", "GGGGG",      "ABD",
+                                 "AAA", "CAS",  "CASB", "MAREA", "HHHHH", "ZZZZZZZZZZZ"};
+    for (int i = 0; i < 13; ++i) {
+        EXPECT_EQ(dictionary.trovaInDizionario(words[i]), i < 6) << words[i];
+        EXPECT_EQ(dictionary.verificaParola(words[i]), i < 6 ? "SI" : "NO") << words[i];
+        EXPECT_EQ(dictionary.cercaParola(words[i]), i < 6 ? "SI" : "NO") << words[i];
     }
-    for (const char* word : {"ABD", "AAA", "CAS", "CASB", "MAREA", "HHHHH", "ZZZZZZZZZZZ"}) {
-        EXPECT_FALSE(dictionary.trovaInDizionario(word)) << word;
-        EXPECT_EQ(dictionary.verificaParola(word), "NO") << word;
-        EXPECT_EQ(dictionary.cercaParola(word), "NO") << word;
-    }
-    EXPECT_FALSE(files.isOpen(FileSlot::Scan));
-    EXPECT_FALSE(files.isOpen(FileSlot::Opponent));
-}
-
-TEST_F(LookupTest, EveryRecordReadIsPrecededByAYield) {
+    EXPECT_FALSE(files.isOpen(FileSlot::Scan) || files.isOpen(FileSlot::Opponent));
+    // Every record read is preceded by a yield.
     yields = 0;
     dictionary.trovaInDizionario("HHHHH"); // the full scan of seven records
-    EXPECT_EQ(yields, 7);
-    yields = 0;
+    const int scan = std::exchange(yields, 0);
     dictionary.cercaParola("HHHHH"); // at most floor(log2 7) + 1 probes
-    EXPECT_EQ(yields, 3);
-    yields = 0;
+    const int search = std::exchange(yields, 0);
     dictionary.cercaParola("ABCDEFGHIJKL"); // an empty block: no probe
-    EXPECT_EQ(yields, 0);
+    EXPECT_EQ(std::tuple(scan, search, yields), std::tuple(7, 3, 0));
+    EXPECT_EQ(dictionary.cercaParola("AB") + dictionary.cercaParola(""), "NO2NO2");
 }
 
-TEST_F(LookupTest, ShortWordsAndMissingFiles) {
-    EXPECT_EQ(dictionary.cercaParola("AB"), "NO2");
-    EXPECT_EQ(dictionary.cercaParola(""), "NO2");
+TEST_F(LookupTest, ADamagedDictionaryAnswersNotFoundAndAMissingOneIsReported) {
+    const std::string file = buildDictionaryFile("", WordLists{{{}, {"CASA", "MARE"}}});
+    // An index past the end, a truncated record, an empty file.
+    for (const std::string& bytes : {std::string(file).replace(216, 16, "     446 9999999"),
+                                     file.substr(0, 445), std::string()}) {
+        folder.write("SLESSICO.1", bytes);
+        dictionary.prendidiz();
+        EXPECT_EQ(dictionary.verificaParola("ZZZZ") + dictionary.cercaParola("AAAA"), "NONO")
+            << bytes.size();
+    }
     state.numDizionario = 2;
     EXPECT_EQ(dictionary.cercaParola("CASA"), "");
-    EXPECT_EQ(alerts.shown.back(), "Errore 0002: Non trovato file di vocabolario SLESSICO.2");
     EXPECT_THROW(dictionary.verificaParola("CASA"), ProgramEnded);
-    EXPECT_EQ(alerts.shown.back(), "Errore 0002: Non trovato file di vocabolario SLESSICO.2");
     EXPECT_THROW(dictionary.prendidiz(), ProgramEnded);
-    EXPECT_EQ(alerts.shown.back(), "Errore fatale! non trovato file di vocabolario: SLESSICO.2");
+    const std::string missing = "Errore 0002: Non trovato file di vocabolario SLESSICO.2";
+    EXPECT_EQ(alerts.shown,
+              (std::vector<std::string>{
+                  missing, missing, "Errore fatale! non trovato file di vocabolario: SLESSICO.2"}));
 }
 
 TEST_F(LookupTest, PersonalVocabularyAnswersBothChecksWhateverTheCase) {
     folder.write("ZarmPriv.1", "zebra\r\nGATTO\r\n\r\nbue");
-    for (const char* word : {"ZEBRA", "GATTO", "BUE"}) {
-        EXPECT_EQ(dictionary.verificaParola(word), "SI") << word;
-        EXPECT_EQ(dictionary.cercaParola(word), "SI") << word;
-    }
-    EXPECT_EQ(dictionary.verificaParola("zebra"), "NO"); // the word itself is not folded
-    EXPECT_EQ(dictionary.cercaParola("CANE"), "NO");
+    for (const char* word : {"ZEBRA", "GATTO", "BUE"})
+        EXPECT_EQ(dictionary.verificaParola(word) + dictionary.cercaParola(word), "SISI") << word;
+    // The word itself is not folded.
+    EXPECT_EQ(dictionary.verificaParola("zebra") + dictionary.cercaParola("CANE"), "NONO");
+    // A word is appended on its own line after a last line without its end.
+    folder.write("ZarmPriv.1", "ZEBRA");
+    ASSERT_TRUE(appendToPersonalVocabulary(folder.path() / personalVocabularyFileName(1), "GATTO"));
+    EXPECT_EQ(folder.read("ZarmPriv.1"), "ZEBRA\r\nGATTO\r\n");
+    EXPECT_EQ(readPersonalVocabulary(folder.path() / "missing"), std::vector<std::string>{});
 }
 
-TEST_F(LookupTest, AnOpponentLookupWhoseFileIsClosedUnderItAnswersBusy) {
+TEST_F(LookupTest, AnOpponentLookupWhoseFileIsClosedUnderItAnswersBusyAndOneInAScanYieldIsNot) {
     yieldAction = [this] { files.closeAll(); };
     EXPECT_EQ(dictionary.cercaParola("MARE"), "BUSY");
     folder.write("ZarmPriv.1", "MARE\r\n");
     EXPECT_EQ(dictionary.cercaParola("MARE"), "BUSY"); // given up before the vocabulary
     // The submission's scan in the same situation just does not find the word.
     EXPECT_FALSE(dictionary.trovaInDizionario("MARE"));
-}
-
-TEST_F(LookupTest, AnOpponentLookupInsideAScanYieldUsesItsOwnSlot) {
+    // An opponent lookup inside a scan's yield uses its own slot.
     std::string inner;
     yieldAction = [&] {
         yieldAction = nullptr;
@@ -110,37 +114,9 @@ TEST_F(LookupTest, AnOpponentLookupInsideAScanYieldUsesItsOwnSlot) {
     EXPECT_EQ(inner, "SI");
 }
 
-TEST_F(LookupTest, ADamagedDictionaryAnswersNotFoundWithoutCrashingOrHanging) {
-    WordLists words;
-    words[1] = {"CASA", "MARE"};
-    std::string file = buildDictionaryFile("", words);
-    const std::pair<const char*, std::string> damages[] = {
-        {"index past the end", std::string(file).replace(216, 16, "     446 9999999")},
-        {"truncated record", file.substr(0, 445)},
-        {"empty file", ""},
-    };
-    for (const auto& [what, bytes] : damages) {
-        SCOPED_TRACE(what);
-        folder.write("SLESSICO.1", bytes);
-        dictionary.prendidiz();
-        EXPECT_EQ(dictionary.verificaParola("ZZZZ"), "NO");
-        EXPECT_EQ(dictionary.cercaParola("AAAA"), "NO");
-    }
-}
-
-TEST_F(LookupTest, AWordIsAppendedOnItsOwnLineAfterALastLineWithoutItsEnd) {
-    folder.write("ZarmPriv.1", "ZEBRA");
-    ASSERT_TRUE(appendToPersonalVocabulary(folder.path() / personalVocabularyFileName(1), "GATTO"));
-    EXPECT_EQ(folder.read("ZarmPriv.1"), "ZEBRA\r\nGATTO\r\n");
-    EXPECT_EQ(readPersonalVocabulary(folder.path() / "missing"), std::vector<std::string>{});
-}
-
 TEST_F(LookupTest, TheRulesAreReadOnceWithCrLfAndAMissingFileIsReported) {
     RulesText rules(folder.path());
     EXPECT_EQ(rules.text(alerts), "");
-    ASSERT_EQ(alerts.shown.size(), 1u);
-    EXPECT_EQ(alerts.shown[0],
-              "ERRORE 0001: File contenente le regole sulle parole non trovato: REGPAROL.TXT");
     EXPECT_EQ(rulesForConfirmation(folder.path()), "File REGPAROL.txt non trovato");
 
     folder.write("regparol.txt", "Regole\r\nperch\xE9 s\xEC");
@@ -148,7 +124,8 @@ TEST_F(LookupTest, TheRulesAreReadOnceWithCrLfAndAMissingFileIsReported) {
     folder.write("regparol.txt", "Nuove regole\r\n");
     EXPECT_EQ(rules.text(alerts), "Regole\r\nperché sì\r\n"); // kept after the first read
     EXPECT_EQ(rulesForConfirmation(folder.path()), "Nuove regole\r\n");
-    EXPECT_EQ(alerts.shown.size(), 1u);
+    EXPECT_EQ(alerts.shown, std::vector<std::string>{"ERRORE 0001: File contenente le regole sulle "
+                                                     "parole non trovato: REGPAROL.TXT"});
 }
 
 } // namespace

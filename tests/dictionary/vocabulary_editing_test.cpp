@@ -8,32 +8,25 @@ namespace {
 
 TEST(VocabularyEditing, NewWordChecksStopAtTheFirstFailureAndScanOnlyWellFormedWords) {
     constexpr std::string_view italian = "ABCDEFGHILMNOPQRSTUVZ";
-    const std::tuple<const char*, std::string_view, bool, bool, NewWordCheck> cases[] = {
-        {"JAZZ", italian, false, false, NewWordCheck::BadLetter},
-        {"JAZZ", "ABCDEFGHIJKLMNOPQRSTUVWXYZ", false, false, NewWordCheck::Added},
-        {"A1", italian, false, false, NewWordCheck::BadLetter}, // before the length
-        {"CASA ", italian, false, false, NewWordCheck::BadLetter},
-        {"CITTÀ", italian, false, false, NewWordCheck::BadLetter},
-        {"", italian, true, true, NewWordCheck::Empty},
-        {"AB", italian, true, true, NewWordCheck::TooShort},
-        {"CASA", italian, true, true, NewWordCheck::InMainDictionary},
-        {"CASA", italian, false, true, NewWordCheck::InPersonalList},
-        {"ABC", italian, false, false, NewWordCheck::Added},
+    // Only a word that passed the letters and the length costs a scan of the dictionary.
+    const std::tuple<const char*, std::string_view, bool, bool, NewWordCheck, int> cases[] = {
+        {"JAZZ", italian, false, false, NewWordCheck::BadLetter, 0},
+        {"JAZZ", "ABCDEFGHIJKLMNOPQRSTUVWXYZ", false, false, NewWordCheck::Added, 1},
+        {"A1", italian, false, false, NewWordCheck::BadLetter, 0}, // before the length
+        {"CASA ", italian, false, false, NewWordCheck::BadLetter, 0},
+        {"CITTÀ", italian, false, false, NewWordCheck::BadLetter, 0},
+        {"", italian, true, true, NewWordCheck::Empty, 0},
+        {"AB", italian, true, true, NewWordCheck::TooShort, 0},
+        {"CASA", italian, true, true, NewWordCheck::InMainDictionary, 1},
+        {"CASA", italian, false, true, NewWordCheck::InPersonalList, 1},
+        {"ABC", italian, false, false, NewWordCheck::Added, 1},
     };
-    for (const auto& [word, alfabeto, inMain, inList, expected] : cases) {
-        int scans = 0;
-        const auto main = [&](const std::string& w) {
-            ++scans;
-            EXPECT_EQ(w, word);
-            return inMain;
-        };
+    for (const auto& [word, alfabeto, inMain, inList, expected, scans] : cases) {
+        std::vector<std::string> scanned;
+        const auto main = [&](const std::string& w) { return scanned.push_back(w), inMain; };
         const auto list = [&](const std::string&) { return inList; };
         EXPECT_EQ(checkNewWord(word, alfabeto, main, list), expected) << word;
-        // Only a word that passed the letters and the length costs a scan of the dictionary.
-        const bool wellFormed = expected != NewWordCheck::BadLetter &&
-                                expected != NewWordCheck::Empty &&
-                                expected != NewWordCheck::TooShort;
-        EXPECT_EQ(scans, wellFormed ? 1 : 0) << word;
+        EXPECT_EQ(scanned, std::vector<std::string>(scans, word)) << word;
     }
 }
 
@@ -44,12 +37,12 @@ TEST(VocabularyEditing, EntryKeysKeepOnlyTheItalianLettersInUpperCase) {
         {'y', 0},   {'1', 0},   {' ', 0},   {'\x1b', 0},  {'\t', 0},    {'\xe0', 0}, // à
     };
     for (const auto& [key, kept] : cases) {
-        const EntryKey got = filterEntryKey(key);
         const EntryKeyAction expected = kept == 0      ? EntryKeyAction::Drop
                                         : kept == '\r' ? EntryKeyAction::Insert
                                                        : EntryKeyAction::Keep;
-        EXPECT_EQ(got.action, expected) << int(key);
-        if (expected == EntryKeyAction::Keep) EXPECT_EQ(got.key, kept) << int(key);
+        EXPECT_EQ(filterEntryKey(key).action, expected) << int(key);
+        EXPECT_TRUE(expected != EntryKeyAction::Keep || filterEntryKey(key).key == kept)
+            << int(key);
     }
 }
 

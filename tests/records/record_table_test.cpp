@@ -24,13 +24,7 @@ std::string repeat(const std::string& line, int times) {
 }
 
 TEST(RecordTable, ReadsEachLineTrapsIncluded) {
-    struct Case {
-        std::string bytes;
-        int slot;
-        RecordEntry expected;
-    };
-    const Case cases[] = {
-        {"BRIVO, 1240 \r\n", 1, {"BRIVO", 1240}},
+    const std::tuple<std::string, int, RecordEntry> cases[] = {
         {"   ANNA MARIA ,900\r\n", 1, {"ANNA MARIA ", 900}},
         {"ROSSI,MARIO, 1500 \r\n", 1, {"ROSSI", 0}}, // a comma in the name splits it there
         {",7.5x\r\n", 1, {"", 8}},
@@ -43,26 +37,23 @@ TEST(RecordTable, ReadsEachLineTrapsIncluded) {
         {repeat("A, 1 \r\n", 51) + "B, 2 \r\nC, 3 \r\n", 52, {"B", 2}}, // the 53rd is not read
         {std::string(100'000, 'N') + ", 4 \r\nM, 6 \r\n", 2, {"M", 6}},
     };
-    for (const Case& c : cases)
-        EXPECT_EQ(tableOf(c.bytes).slot(c.slot), c.expected) << c.bytes.substr(0, 40);
+    for (const auto& [bytes, slot, expected] : cases)
+        EXPECT_EQ(tableOf(bytes).slot(slot), expected) << bytes.substr(0, 40);
     EXPECT_EQ(tableOf(std::string(100'000, 'N')).slot(1).name.size(), 4096u);
 }
 
 TEST(RecordTable, NewScoreGoesBelowEqualOnesAndFallsOffTheEnd) {
-    struct Case {
-        std::int32_t score;
-        std::optional<int> place;
-    };
     // Places 1 to 50 hold 5000, 4000, 3000, 2000 and then 2000 - place.
     std::string file = "A, 5000 \r\nB, 4000 \r\nC, 3000 \r\nD, 2000 \r\n";
     for (int i = 5; i <= 50; ++i)
         file += "E" + std::to_string(i) + "," + std::to_string(2000 - i) + "\r\n";
-    const Case cases[] = {{3000, 4}, {6000, 1}, {2000, 5}, {1951, 50}, {1950, {}}};
-    for (const Case& c : cases) {
+    const std::pair<std::int32_t, std::optional<int>> cases[] = {
+        {3000, 4}, {6000, 1}, {2000, 5}, {1951, 50}, {1950, {}}};
+    for (const auto& [score, place] : cases) {
         RecordTable table = tableOf(file);
-        table.enter("NEW", c.score);
-        EXPECT_EQ(table.placeOf("NEW", c.score), c.place) << c.score;
-        EXPECT_EQ(table.slot(51).name, c.place ? "E50" : "NEW");
+        table.enter("NEW", score);
+        EXPECT_EQ(table.placeOf("NEW", score), place) << score;
+        EXPECT_EQ(table.slot(51).name, place ? "E50" : "NEW");
     }
 }
 
@@ -71,12 +62,13 @@ TEST(RecordTable, WritesFiftyLinesAndListsThemCut) {
     table.enter("PRECIPITEVOLISSIMEVOLMENTE", 123456);
     EXPECT_EQ(table.fileBytes(),
               "PRECIPITEVOLISSIMEVOLMENTE, 123456 \r\nBRIVO, 1240 \r\n" + repeat(", 0 \r\n", 48));
-    const auto lines = table.listLines();
-    ASSERT_EQ(lines.size(), 51u);
-    EXPECT_EQ(lines[0], " N. - Giocatore    -  Punti");
-    EXPECT_EQ(lines[1], " 01 - PRECIPITEVOL -  123.456");
-    EXPECT_EQ(lines[2], " 02 - BRIVO        -  01.240");
-    EXPECT_EQ(lines[50], " 50 -              -  00.000");
+    std::vector<std::string> lines = {" N. - Giocatore    -  Punti",
+                                      " 01 - PRECIPITEVOL -  123.456",
+                                      " 02 - BRIVO        -  01.240"};
+    for (int place = 3; place <= 50; ++place)
+        lines.push_back(" " + std::string(place < 10 ? "0" : "") + std::to_string(place) +
+                        " -              -  00.000");
+    EXPECT_EQ(table.listLines(), lines);
 }
 
 TEST(RecordOpening, ThresholdsDifferAtMatchEndAndOnLeaving) {
@@ -85,11 +77,11 @@ TEST(RecordOpening, ThresholdsDifferAtMatchEndAndOnLeaving) {
     for (const auto& [punti, afterMatch, onLeaving] : cases) {
         GameState a, b;
         a.puntiGiocatore = b.puntiGiocatore = punti;
-        EXPECT_EQ(recordDopoPartita(a), afterMatch);
-        EXPECT_EQ(std::pair(a.inserisciRecord, a.uscitaDopoRecord), std::pair(afterMatch, false));
-        EXPECT_EQ(recordAllUscita(b), onLeaving);
-        EXPECT_EQ(std::pair(b.inserisciRecord, b.uscitaDopoRecord),
-                  std::pair(onLeaving, onLeaving));
+        const bool atMatchEnd = recordDopoPartita(a), atLeaving = recordAllUscita(b);
+        EXPECT_EQ(std::tuple(atMatchEnd, a.inserisciRecord, a.uscitaDopoRecord, atLeaving,
+                             b.inserisciRecord, b.uscitaDopoRecord),
+                  std::tuple(afterMatch, afterMatch, false, onLeaving, onLeaving, onLeaving))
+            << punti;
     }
 }
 
@@ -101,17 +93,16 @@ TEST(RecordOpening, EntersBelowAnEqualScoreAndNeverWritesOverAnUnreadableFile) {
     state.inserisciRecord = true;
     folder.write("zarMolo.HIS", "A, 950 \r\nBRIVO, 900 \r\nC, 800");
     TabellaRecord shown = riempiTabella(state, "BRIVO", file);
-    EXPECT_FALSE(state.inserisciRecord);
-    EXPECT_EQ(shown.selezione, 3); // the last of two equal entries
-    EXPECT_FALSE(shown.invioPossibile);
+    // Below the last of two equal entries.
+    EXPECT_EQ(std::tuple(state.inserisciRecord, shown.selezione, shown.invioPossibile),
+              std::tuple(false, 3, false));
 
     std::filesystem::remove(file);
     std::filesystem::create_directory(file);
     state.inserisciRecord = true;
     shown = riempiTabella(state, "ANNA", file);
-    EXPECT_TRUE(std::filesystem::is_directory(file));
-    EXPECT_EQ(shown.selezione, 1);
-    EXPECT_TRUE(shown.invioPossibile);
+    EXPECT_TRUE(std::filesystem::is_directory(file) && shown.selezione == 1 &&
+                shown.invioPossibile);
 }
 
 } // namespace

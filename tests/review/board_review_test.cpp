@@ -36,21 +36,16 @@ TEST(BoardReview, SplitsSortsCountsAndFiltersTheThreeLists) {
     EXPECT_EQ(words(throughCell(review.player, -1)), (Words{"case", "orca", "eco", "tor"}));
     EXPECT_EQ(words(throughCell(review.cpu, -1)), (Words{"case", "orca"}));
     EXPECT_EQ(words(throughCell(review.missed, -1)), (Words{"rotta", "arco", "ase", "oca"}));
-    EXPECT_EQ(review.player.points, 1000);
-    EXPECT_EQ(review.missed.points, 1180);
-    EXPECT_EQ(review.words, 8);
-    EXPECT_EQ(review.points, 2180);
+    EXPECT_EQ(std::tuple(review.player.points, review.missed.points, review.words, review.points),
+              std::tuple(1000, 1180, 8, 2180));
     EXPECT_EQ(review.player.entries[3].path, (std::vector<int>{7, 6, 5}));
 
-    const struct {
-        int cell;
-        Words player, missed;
-    } filters[] = {{0, {"case", "orca"}, {"arco", "oca"}},
-                   {7, {"tor"}, {"rotta"}},
-                   {2, {"case"}, {"ase"}},
-                   {4, {}, {}}};
-    for (const auto& f : filters) {
-        EXPECT_EQ(words(throughCell(review.player, f.cell)), f.player) << f.cell;
-        EXPECT_EQ(words(throughCell(review.missed, f.cell)), f.missed) << f.cell;
+    const std::tuple<int, Words, Words> filters[] = {{0, {"case", "orca"}, {"arco", "oca"}},
+                                                     {7, {"tor"}, {"rotta"}},
+                                                     {2, {"case"}, {"ase"}},
+                                                     {4, {}, {}}};
+    for (const auto& [cell, player, missed] : filters) {
+        EXPECT_EQ(words(throughCell(review.player, cell)), player) << cell;
+        EXPECT_EQ(words(throughCell(review.missed, cell)), missed) << cell;
     }
 }
