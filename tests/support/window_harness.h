@@ -3,6 +3,7 @@
 // act on a modal window from inside its own event loop.
 #pragma once
 
+#include "board/board_layout.h"
 #include "core/mixing_random.h"
 #include "dictionary/dictionary_format.h"
 #include "tests/support/fakes.h"
@@ -70,6 +71,23 @@ struct GameHarness {
     }
     void trigger(const char* action) { get<QAction>(action)->trigger(); }
     QTimer* timer(const char* name) { return get<QTimer>(name); }
+    // Puts `letters` on the first dice, face 1 up, and redraws the board.
+    void setBoard(const std::string& letters) {
+        for (std::size_t n = 0; n < letters.size(); ++n)
+            window->state().immagineCella[n] = dieName(letters[n], 1);
+        window->changed(Aspect::Board);
+    }
+    void press(int die, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseClick(get(qPrintable(QString("Picture1_%1").arg(die))), button);
+    }
+    // The objectNames of the checked menu items, sorted.
+    QStringList checkedItems() {
+        QStringList names;
+        for (QAction* item : window->findChildren<QAction*>())
+            if (item->isChecked()) names << item->objectName();
+        names.sort();
+        return names;
+    }
 };
 
 // What an editor window needs, with the answers of its OK / Cancel boxes scripted and recorded.
