@@ -40,19 +40,18 @@ private slots:
         QTest::addColumn<QString>("alert");
         const QString missing = "Non trovato file di documentazione/help GRIGLIONE.htm";
         const QString mail = QString("mailto:") + kEmailAutore, site = kSitoWeb;
-        QTest::newRow("file") << "F1"
-                              << "help"
-                              << "";
-        QTest::newRow("none") << "F1"
-                              << "" << missing;
-        QTest::newRow("folder") << "F1"
-                                << "" << missing;
-        QTest::newRow("mail") << "Ctrl+F8" << mail << "";
-        QTest::newRow("site") << "Ctrl+F9" << site << "";
-        QTest::newRow("Label12") << "Label12" << site << "";
-        QTest::newRow("Form3 Label6") << "Form3/Label6" << site << "";
-        QTest::newRow("Form3 Label3") << "Form3/Label3" << mail << "";
-        QTest::newRow("Form3 Picture2") << "Form3/Picture2" << mail << "";
+        const QString rows[][3] = {{"file", "F1", "help"},
+                                   {"none", "F1", ""},
+                                   {"folder", "F1", ""},
+                                   {"mail", "Ctrl+F8", mail},
+                                   {"site", "Ctrl+F9", site},
+                                   {"Label12", "Label12", site},
+                                   {"Form3 Label6", "Form3/Label6", site},
+                                   {"Form3 Label3", "Form3/Label3", mail},
+                                   {"Form3 Picture2", "Form3/Picture2", mail}};
+        for (const auto& [tag, input, opened] : rows)
+            QTest::newRow(qPrintable(tag))
+                << input << opened << (opened.isEmpty() ? missing : QString());
     }
     void keysAndLinksOpenTheirTargets() {
         QFETCH(QString, input);
