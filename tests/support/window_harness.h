@@ -12,6 +12,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QListWidget>
 #include <QTimer>
 #include <QtTest>
 
@@ -35,6 +36,19 @@ inline void whenShown(const QString& name, std::function<void(QWidget*)> action,
         if (QWidget* w = shownWindow(name)) return action(w);
         if (tries > 0) whenShown(name, action, tries - 1);
     });
+}
+
+inline QStringList texts(const std::vector<std::string>& lines) {
+    QStringList all;
+    for (const std::string& line : lines)
+        all << QString::fromStdString(line);
+    return all;
+}
+inline QStringList texts(const QListWidget* list) {
+    QStringList all;
+    for (int i = 0; i < list->count(); ++i)
+        all << list->item(i)->text();
+    return all;
 }
 
 template <typename T = QWidget> T* child(const QObject* parent, const char* name) {

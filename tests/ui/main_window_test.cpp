@@ -120,8 +120,7 @@ private slots:
         QTest::keyClick(game->window.get(), Qt::Key_Return); // Enter on the window, not on a die
         QCOMPARE(text("Label10"), QString("640"));
         auto* list = game->get<QListWidget>("List1");
-        QCOMPARE(list->count(), 2);
-        QCOMPARE(list->item(0)->text(), QString("casa"));
+        QCOMPARE(texts(list), QStringList({"casa", "mare"}));
         QCOMPARE(list->currentRow(), 1);
         MessageWindow* message = game->window->messages().window();
         QVERIFY(message && message->isVisible());
@@ -256,8 +255,7 @@ private slots:
                 timer1->stop();
                 nestedTicks = state().secondiTrascorsi - elapsed;
             } else {
-                for (int i = 0; i < list->count(); ++i)
-                    history << list->item(i)->text();
+                history = texts(list);
                 whenShown("Form10", [&](QWidget* review) {
                     for (const char* label : {"Label1", "Label4"})
                         reviewed << child<QLabel>(review, label)->text();

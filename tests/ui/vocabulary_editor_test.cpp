@@ -24,12 +24,7 @@ class VocabularyEditorTest : public QObject {
     }
     QLineEdit* entry() { return child<QLineEdit>(window.get(), "Text1"); }
     QListWidget* list() { return child<QListWidget>(window.get(), "List1"); }
-    QStringList words() {
-        QStringList all;
-        for (int i = 0; i < list()->count(); ++i)
-            all << list()->item(i)->text();
-        return all;
-    }
+    QStringList words() { return texts(list()); }
     // "&Nuova parola", the word and Enter.
     void add(const char* word) {
         key(Qt::Key_N, Qt::AltModifier);
