@@ -112,12 +112,11 @@ private slots:
                 game->trigger("MenuMedio");
             }
             std::filesystem::permissions(file, std::filesystem::perms::owner_all);
-            QCOMPARE(damage == 2 ? std::filesystem::is_directory(file)
-                                 : game->folder.read("ZARMOLO.INI") == old,
-                     true);
-            QCOMPARE(game->alerts.shown, std::vector<std::string>{"Errore 001: impossibile "
-                                                                  "riscivere il file di "
-                                                                  "inizializzazione ZARMOLO.INI"});
+            QVERIFY(damage == 2 ? std::filesystem::is_directory(file)
+                                : game->folder.read("ZARMOLO.INI") == old);
+            QCOMPARE(texts(game->alerts.shown),
+                     QStringList("Errore 001: impossibile riscivere il file di inizializzazione "
+                                 "ZARMOLO.INI"));
             QCOMPARE(game->timer("Timer2")->interval(), 300);
             QVERIFY(game->get<QAction>("MenuMedio")->isChecked());
         }
