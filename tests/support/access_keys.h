@@ -13,21 +13,19 @@
 
 namespace griglione::testing {
 
-namespace detail {
+using KeyOwners = QMap<QString, QStringList>;
 
-inline QStringList clashes(const QMap<QString, QStringList>& owners) {
+inline QStringList clashes(const KeyOwners& owners) {
     QStringList found;
     for (auto it = owners.begin(); it != owners.end(); ++it)
         if (it->size() > 1) found << it.key() + ": " + it->join(", ");
     return found;
 }
 
-} // namespace detail
-
 // The keys of a window: its buttons' live shortcuts (the access key unless taken away), labels
 // that lead to a buddy, group boxes, the menu bar's titles and every action's shortcut.
 inline QStringList accessKeyClashes(QWidget* window) {
-    QMap<QString, QStringList> owners;
+    KeyOwners owners;
     const auto add = [&](const QKeySequence& key, const QString& owner) {
         if (!key.isEmpty()) owners[key.toString()] << owner;
     };
@@ -42,18 +40,18 @@ inline QStringList accessKeyClashes(QWidget* window) {
             add(QKeySequence::mnemonic(menu->text()), menu->text());
     for (auto* action : window->findChildren<QAction*>())
         add(action->shortcut(), action->text());
-    return detail::clashes(owners);
+    return clashes(owners);
 }
 
 // The access keys of the items of one drop-down menu, which are chosen among themselves while
 // it is open.
 inline QStringList accessKeyClashes(QMenu* menu) {
-    QMap<QString, QStringList> owners;
+    KeyOwners owners;
     for (QAction* item : menu->actions())
         if (!item->isSeparator())
             owners[QKeySequence::mnemonic(item->text()).toString()] << item->text();
     owners.remove(QString());
-    return detail::clashes(owners);
+    return clashes(owners);
 }
 
 } // namespace griglione::testing

@@ -106,10 +106,6 @@ private:
     std::filesystem::path m_path;
 };
 
-} // namespace griglione::testing
-
-namespace griglione::testing {
-
 // A disk that fills up: while it lives, the writes of core/atomic_file store `bytes` more bytes
 // and then fail.
 struct WriteLimit {

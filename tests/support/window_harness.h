@@ -3,6 +3,7 @@
 // act on a modal window from inside its own event loop.
 #pragma once
 
+#include "board/board_layout.h"
 #include "core/mixing_random.h"
 #include "dictionary/dictionary_format.h"
 #include "tests/support/fakes.h"
@@ -11,6 +12,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QListWidget>
 #include <QTimer>
 #include <QtTest>
 
@@ -34,6 +36,19 @@ inline void whenShown(const QString& name, std::function<void(QWidget*)> action,
         if (QWidget* w = shownWindow(name)) return action(w);
         if (tries > 0) whenShown(name, action, tries - 1);
     });
+}
+
+inline QStringList texts(const std::vector<std::string>& lines) {
+    QStringList all;
+    for (const std::string& line : lines)
+        all << QString::fromStdString(line);
+    return all;
+}
+inline QStringList texts(const QListWidget* list) {
+    QStringList all;
+    for (int i = 0; i < list->count(); ++i)
+        all << list->item(i)->text();
+    return all;
 }
 
 template <typename T = QWidget> T* child(const QObject* parent, const char* name) {
@@ -70,6 +85,23 @@ struct GameHarness {
     }
     void trigger(const char* action) { get<QAction>(action)->trigger(); }
     QTimer* timer(const char* name) { return get<QTimer>(name); }
+    // Puts `letters` on the first dice, face 1 up, and redraws the board.
+    void setBoard(const std::string& letters) {
+        for (std::size_t n = 0; n < letters.size(); ++n)
+            window->state().immagineCella[n] = dieName(letters[n], 1);
+        window->changed(Aspect::Board);
+    }
+    void press(int die, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseClick(get(qPrintable(QString("Picture1_%1").arg(die))), button);
+    }
+    // The objectNames of the checked menu items, sorted.
+    QStringList checkedItems() {
+        QStringList names;
+        for (QAction* item : window->findChildren<QAction*>())
+            if (item->isChecked()) names << item->objectName();
+        names.sort();
+        return names;
+    }
 };
 
 // What an editor window needs, with the answers of its OK / Cancel boxes scripted and recorded.

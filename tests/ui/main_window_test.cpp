@@ -1,112 +1,41 @@
 // The main window in a temporary folder: its start-up state, the announcement and F2, words played
 // with real clicks and keys, the confirmation, the options menus and the line width as drawn, and
-// two short matches against the fastest opponent with the end-of-match window between them.
-#include "board/board_layout.h"
-#include "core/mixing_random.h"
-#include "dictionary/dictionary_format.h"
-#include "tests/support/fakes.h"
-#include "ui/die_cell.h"
-#include "ui/end_of_match_window.h"
-#include "ui/main_window.h"
+// two short matches against the fastest opponent with the end-of-match window between them, and
+// the review of the board opened from it.
+#include "tests/support/window_harness.h"
 #include "ui/message_window.h"
 #include "ui/time_bar.h"
 
-#include <QAction>
-#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QTextEdit>
-#include <QTimer>
-#include <QtTest>
-
-#include <functional>
-#include <memory>
 
 using namespace griglione;
 using namespace griglione::testing;
 
-namespace {
-
-// Runs `action` on the first visible top-level widget named `name` once it shows up.
-void whenShown(const QString& name, std::function<void(QWidget*)> action, int tries = 400) {
-    QTimer::singleShot(5, [=] {
-        for (QWidget* w : QApplication::topLevelWidgets())
-            if (w->objectName() == name && w->isVisible()) {
-                action(w);
-                return;
-            }
-        if (tries > 0) whenShown(name, action, tries - 1);
-    });
-}
-
-void clickButton(QWidget* window, const char* name) {
-    auto* button = window->findChild<QAbstractButton*>(name);
-    QVERIFY(button);
-    button->click();
-}
-
-} // namespace
-
 class MainWindowTest : public QObject {
     Q_OBJECT
-
-    std::unique_ptr<TempFolder> folder;
-    FakeSounds sounds;
-    FakeAlerts alerts;
-    FakeOutside outside;
-    FixedClock clock;
-    MixingRandom random{99};
-    int terminated = 0;
-    std::unique_ptr<MainWindow> window;
+    std::unique_ptr<GameHarness> game;
     // Answers every modal message (the match announcement) as the player would, noting it.
     QTimer answerer;
-    int announcements = 0;
-    QString announced;
+    QStringList announced;
     bool clockRanDuringAnnouncement = false;
 
-    void answerAnnouncements() {
-        for (QWidget* w : QApplication::topLevelWidgets())
-            if (w->objectName() == "Form8" && w->isVisible() && w->isModal()) {
-                ++announcements;
-                announced =
-                    w->windowTitle() + "|" + w->findChild<QTextEdit*>("Text1")->toPlainText();
-                clockRanDuringAnnouncement |= child<QTimer>("Timer1")->isActive();
-                clickButton(w, "Command3d1");
-            }
+    void open(const std::string& settings = "") {
+        if (!settings.empty()) game->folder.write("ZARMOLO.INI", settings);
+        game->start([] { QCoreApplication::processEvents(); });
     }
-
-    void writeDictionary() {
-        WordLists words;
-        words[0] = {"ERA", "ORA"};
-        words[1] = {"CASA", "MARE"};
-        folder->write("SLESSICO.1", buildDictionaryFile("test", words));
-        folder->write("SLESSICO.2", buildDictionaryFile("test", words));
+    GameState& state() { return game->window->state(); }
+    QString text(const char* label) { return game->get<QLabel>(label)->text(); }
+    bool running(const char* timer) { return game->timer(timer)->isActive(); }
+    void click(QWidget* window, const char* button) {
+        child<QAbstractButton>(window, button)->click();
     }
-    void open() {
-        window = std::make_unique<MainWindow>(Services{sounds, alerts, outside, clock, random,
-                                                       [] { QCoreApplication::processEvents(); },
-                                                       folder->path(), [this] { ++terminated; }});
-        window->startUp();
-        window->show();
-    }
-    template <typename T> T* child(const char* name) { return window->findChild<T*>(name); }
-    QAction* action(const char* name) { return window->findChild<QAction*>(name); }
-    void setBoard(const std::string& letters) {
-        for (int n = 0; n < kCells; ++n)
-            window->state().immagineCella[n] = dieName(letters[n], 1);
-        window->changed(Aspect::Board);
-    }
-    void press(int n, Qt::MouseButton button = Qt::LeftButton) {
-        QTest::mouseClick(child<DieCell>(qPrintable(QStringLiteral("Picture1_%1").arg(n))), button);
-    }
-    // Starts a match through the menu, with no announcement.
-    void newMatch() { action("menuNuovo")->trigger(); }
     // The thickness of the traced line from die 0 to die 1, measured across it in die 0.
     int drawnLineWidth() {
-        auto* overlay = child<QWidget>("path");
+        QWidget* overlay = game->get("path");
         QImage image(overlay->size(), QImage::Format_RGB32);
         image.fill(Qt::white);
         overlay->render(&image);
@@ -119,300 +48,263 @@ class MainWindowTest : public QObject {
 public:
     MainWindowTest() {
         answerer.setInterval(5);
-        connect(&answerer, &QTimer::timeout, this, [this] { answerAnnouncements(); });
+        connect(&answerer, &QTimer::timeout, this, [this] {
+            for (QWidget* w : QApplication::topLevelWidgets())
+                if (w->objectName() == "Form8" && w->isVisible() && w->isModal()) {
+                    announced << w->windowTitle() + "|" +
+                                     child<QTextEdit>(w, "Text1")->toPlainText();
+                    clockRanDuringAnnouncement |= running("Timer1");
+                    click(w, "Command3d1");
+                }
+        });
     }
 
 private slots:
     void init() {
-        folder = std::make_unique<TempFolder>();
-        writeDictionary();
-        sounds.played.clear();
-        alerts.shown.clear();
-        terminated = 0;
-        announcements = 0;
+        game = std::make_unique<GameHarness>();
+        for (const char* name : {"SLESSICO.1", "SLESSICO.2"})
+            game->folder.write(name,
+                               buildDictionaryFile("test", {{{"ERA", "ORA"}, {"CASA", "MARE"}}}));
+        announced.clear();
         clockRanDuringAnnouncement = false;
         answerer.start();
     }
     void cleanup() {
         answerer.stop();
-        window.reset();
-        folder.reset();
+        game.reset();
     }
 
-    void startsWaitingOnABlankBoardWithTheStoredSettings() {
-        folder->write("ZARMOLO.INI", "Livello=300\r\nSuono=NO\r\nTempo=30\r\nGiocatore1=anna\r\n"
-                                     "Dizionario= 2 \r\n");
-        open();
-        QVERIFY(!child<QTimer>("Timer1")->isActive());
-        QVERIFY(!child<QTimer>("Timer2")->isActive());
-        QCOMPARE(child<QTimer>("Timer2")->interval(), 300);
-        QVERIFY(tavolaVuota(window->state()));
-        QCOMPARE(window->windowTitle(), QString("Il Griglione - Dizionario English"));
-        QVERIFY(action("MenuMedio")->isChecked());
-        QVERIFY(!action("MenuBir")->isChecked());
-        QVERIFY(!action("MenuSuono")->isChecked());
-        QVERIFY(action("menu30s")->isChecked());
-        QVERIFY(action("Menuing")->isChecked());
-        QVERIFY(!action("Menuita")->isChecked());
-        QCOMPARE(child<QLineEdit>("Text1")->text(), QString("ANNA"));
-        QCOMPARE(child<QLabel>("Label10")->text(), QString("0"));
-        QCOMPARE(child<QLabel>("Label1")->text(), QString());
-        QCOMPARE(window->state().tempoPartita, 60);
-        QCOMPARE(folder->read("ZARMOLO.INI").substr(0, 12), std::string("Livello=300\r"));
-    }
-
-    void firstRunWithoutSettingsWritesNothingUntilAChange() {
-        open();
-        QVERIFY(!folder->exists("ZARMOLO.INI"));
-        QCOMPARE(child<QTimer>("Timer2")->interval(), 200);
-        for (const char* name : {"MenuBir", "MenuTapo", "MenuMedio", "MenuExpert", "menu30s",
-                                 "Menu60s", "Menu90s", "Menu300s"})
-            QVERIFY2(!action(name)->isChecked(), name);
-        QVERIFY(action("MenuSuono")->isChecked());
-        QVERIFY(action("menuL2")->isChecked());
-        QVERIFY(action("Menuita")->isChecked());
-        action("menuL1")->trigger();
-        QCOMPARE(folder->read("ZARMOLO.INI"),
-                 std::string("Livello=200\r\nSuono=SI\r\nTempo=90\r\nGiocatore1=BRIVO\r\n"
-                             "SpessoreLinea= 1 \r\nDizionario= 1 \r\n"));
-    }
-
-    void aPressOnTheBlankBoardAnnouncesTheMatchAndF2StartsOneWithout() {
-        open();
-        press(7, Qt::RightButton);
-        QCOMPARE(announcements, 1);
-        QVERIFY(announced.startsWith("Il Griglione - Inizio partita|Si inizia una nuova partita di "
-                                     "120 secondi.\nIl dizionario usato"));
+    void startsWaitingWithTheStoredSettingsAndAnnouncesTheFirstMatch() {
+        const std::string settings =
+            "Livello=300\r\nSuono=NO\r\nTempo=30\r\nGiocatore1=anna\r\nDizionario= 2 \r\n";
+        open(settings);
+        QVERIFY(!running("Timer1") && !running("Timer2"));
+        QCOMPARE(game->timer("Timer2")->interval(), 300);
+        QVERIFY(tavolaVuota(state()));
+        QCOMPARE(game->window->windowTitle(), QString("Il Griglione - Dizionario English"));
+        QCOMPARE(game->checkedItems(), QStringList({"MenuMedio", "Menuing", "menu30s", "menuL2"}));
+        QCOMPARE(game->get<QLineEdit>("Text1")->text(), QString("ANNA"));
+        QCOMPARE(text("Label10") + "|" + text("Label1"), QString("0|"));
+        QCOMPARE(game->folder.read("ZARMOLO.INI"), settings);
+        // A press on the blank board announces the match; F2 starts another without a word.
+        game->press(7, Qt::RightButton);
+        QCOMPARE(announced.size(), 1);
+        QVERIFY(announced[0].startsWith("Il Griglione - Inizio partita|Si inizia una nuova partita "
+                                        "di 60 secondi.\nIl dizionario usato"));
         QVERIFY(!clockRanDuringAnnouncement);
-        QVERIFY(child<QTimer>("Timer1")->isActive());
-        QVERIFY(child<QTimer>("Timer2")->isActive());
-        QVERIFY(!tavolaVuota(window->state()));
-        QCOMPARE(window->state().parolaComposta, std::string());
-        const auto board = window->state().immagineCella;
-        QApplication::setActiveWindow(window.get());
-        QTest::keyClick(window.get(), Qt::Key_F2);
-        QCOMPARE(announcements, 1);
-        QVERIFY(window->state().immagineCella != board);
-        QVERIFY(child<QTimer>("Timer1")->isActive());
+        QVERIFY(running("Timer1") && running("Timer2"));
+        QVERIFY(!tavolaVuota(state()));
+        QCOMPARE(state().parolaComposta, std::string());
+        const auto board = state().immagineCella;
+        QApplication::setActiveWindow(game->window.get());
+        QTest::keyClick(game->window.get(), Qt::Key_F2);
+        QCOMPARE(announced.size(), 1);
+        QVERIFY(state().immagineCella != board);
+        QVERIFY(running("Timer1"));
     }
 
-    void playsARealWordWithClicksAndEnter() {
+    void playsWordsWithClicksAndEnterAndConfirmsAnUnknownOne() {
         open();
-        newMatch();
-        child<QTimer>("Timer2")->stop(); // the opponent stays out of this one
-        setBoard("CASAXMAREXXXXXXXXXXXXXXXX");
+        game->trigger("menuNuovo");
+        game->timer("Timer2")->stop(); // the opponent stays out of this one
+        game->setBoard("CASAXMAREXZEBRA");
         for (int n : {0, 1, 2, 3})
-            press(n);
-        QCOMPARE(child<QLabel>("Label1")->text(), QString("CASA"));
-        QTest::keyClick(child<DieCell>("Picture1_3"), Qt::Key_Return);
+            game->press(n);
+        QCOMPARE(text("Label1"), QString("CASA"));
+        QTest::keyClick(game->get("Picture1_3"), Qt::Key_Return);
         for (int n : {5, 6, 7, 8})
-            press(n);
-        QTest::keyClick(window.get(), Qt::Key_Return); // Enter on the window, not on a die
-        QCOMPARE(child<QLabel>("Label10")->text(), QString("640"));
-        auto* list = child<QListWidget>("List1");
-        QCOMPARE(list->count(), 2);
-        QCOMPARE(list->item(0)->text(), QString("casa"));
+            game->press(n);
+        QTest::keyClick(game->window.get(), Qt::Key_Return); // Enter on the window, not on a die
+        QCOMPARE(text("Label10"), QString("640"));
+        auto* list = game->get<QListWidget>("List1");
+        QCOMPARE(texts(list), QStringList({"casa", "mare"}));
         QCOMPARE(list->currentRow(), 1);
-        MessageWindow* message = window->messages().window();
+        MessageWindow* message = game->window->messages().window();
         QVERIFY(message && message->isVisible());
         QCOMPARE(message->windowTitle(), QString("Il Griglione - Complimenti, parola accettata!"));
-        QCOMPARE(message->findChild<QLabel*>("Label1_0")->text(), QString("B"));
-        QCOMPARE(message->findChild<QLabel*>("Label1_4")->text(), QString("!"));
-        QCOMPARE(child<QLabel>("Label1")->text(), QString());
-        QVERIFY(sounds.played.back() == "vinci.wav");
+        QCOMPARE(child<QLabel>(message, "Label1_0")->text(), QString("B"));
+        QCOMPARE(child<QLabel>(message, "Label1_4")->text(), QString("!"));
+        QCOMPARE(text("Label1"), QString());
+        QCOMPARE(game->sounds.played.back(), "vinci.wav");
         // Tracing across a row end is refused with the "OOPS!" message.
-        press(4);
-        press(5);
-        QCOMPARE(window->messages().window()->windowTitle(),
+        game->press(4);
+        game->press(5);
+        QCOMPARE(game->window->messages().window()->windowTitle(),
                  QString("Il Griglione - Lettera non adiacente"));
-        QCOMPARE(child<QLabel>("Label1")->text(), QString("X"));
-        QTest::keyClick(child<DieCell>("Picture1_4"), Qt::Key_Escape);
-        QCOMPARE(child<QLabel>("Label1")->text(), QString());
-    }
-
-    void anUnknownWordIsConfirmedIntoThePersonalVocabulary() {
-        open();
-        newMatch();
-        child<QTimer>("Timer2")->stop();
-        setBoard("ZEBRAXXXXXXXXXXXXXXXXXXXX");
-        for (int n : {0, 1, 2, 3, 4})
-            press(n);
+        QCOMPARE(text("Label1"), QString("X"));
+        QTest::keyClick(game->get("Picture1_4"), Qt::Key_Escape);
+        QCOMPARE(text("Label1"), QString());
+        // An unknown word is confirmed into the personal vocabulary.
+        for (int n : {10, 11, 12, 13, 14})
+            game->press(n);
         bool clockStopped = false;
         whenShown("Form6", [&](QWidget* w) {
-            clockStopped = !window->findChild<QTimer*>("Timer1")->isActive();
-            QVERIFY(w->findChild<QRadioButton*>("Option3")->isChecked());
-            QCOMPARE(w->findChild<QLabel*>("Label2")->text(), QString("ZEBRA"));
-            QCOMPARE(w->findChild<QLabel*>("Label3")->text(), QString("Dizionario in Italiano"));
-            w->findChild<QRadioButton*>("Option1")->setChecked(true);
-            clickButton(w, "Command1");
+            clockStopped = !running("Timer1");
+            QVERIFY(child<QRadioButton>(w, "Option3")->isChecked());
+            QCOMPARE(child<QLabel>(w, "Label2")->text(), QString("ZEBRA"));
+            QCOMPARE(child<QLabel>(w, "Label3")->text(), QString("Dizionario in Italiano"));
+            child<QRadioButton>(w, "Option1")->setChecked(true);
+            click(w, "Command1");
         });
-        clickButton(window.get(), "Command2");
-        QVERIFY(clockStopped);
-        QVERIFY(child<QTimer>("Timer1")->isActive());
-        QCOMPARE(folder->read("ZarmPriv.1"), std::string("ZEBRA\r\n"));
-        QCOMPARE(child<QLabel>("Label10")->text(), QString("500"));
+        click(game->window.get(), "Command2");
+        QVERIFY(clockStopped && running("Timer1"));
+        QCOMPARE(game->folder.read("ZarmPriv.1"), std::string("ZEBRA\r\n"));
+        QCOMPARE(text("Label10"), QString("1140"));
         // Closed by its frame, the window answers "do not add", whatever option is chosen.
-        for (int n : {0, 1, 2})
-            press(n);
+        for (int n : {10, 11, 12})
+            game->press(n);
         whenShown("Form6", [&](QWidget* w) {
-            w->findChild<QRadioButton*>("Option1")->setChecked(true);
+            child<QRadioButton>(w, "Option1")->setChecked(true);
             w->close();
         });
-        clickButton(window.get(), "Command2");
-        QCOMPARE(window->state().rispostaConferma, 3);
-        QCOMPARE(folder->read("ZarmPriv.1"), std::string("ZEBRA\r\n"));
-        QCOMPARE(child<QLabel>("Label10")->text(), QString("500"));
-        QVERIFY(child<QTimer>("Timer1")->isActive());
+        click(game->window.get(), "Command2");
+        QCOMPARE(state().rispostaConferma, 3);
+        QCOMPARE(game->folder.read("ZarmPriv.1"), std::string("ZEBRA\r\n"));
+        QCOMPARE(text("Label10"), QString("1140"));
+        QVERIFY(running("Timer1"));
     }
 
-    void optionsAreStoredAndLengthRestartsTheMatch() {
+    void optionsAreStoredOnlyOnceChangedAndLengthRestartsTheMatch() {
         open();
-        action("MenuExpert")->trigger();
-        QCOMPARE(child<QTimer>("Timer2")->interval(), 100);
-        QVERIFY(!action("MenuBir")->isChecked());
-        action("MenuSuono")->trigger();
-        QCOMPARE(folder->read("ZARMOLO.INI"),
-                 std::string("Livello=100\r\nSuono=NO\r\nTempo=90\r\nGiocatore1=BRIVO\r\n"
-                             "SpessoreLinea= 7 \r\nDizionario= 1 \r\n"));
-        action("Menu300s")->trigger();
-        QCOMPARE(announcements, 1);
-        QVERIFY(child<QTimer>("Timer1")->isActive());
-        QCOMPARE(window->state().tempoPartita, 300);
-        QVERIFY(folder->read("ZARMOLO.INI").find("Tempo=270\r\n") != std::string::npos);
+        QVERIFY(!game->folder.exists("ZARMOLO.INI"));
+        QCOMPARE(game->timer("Timer2")->interval(), 200);
+        QCOMPARE(game->checkedItems(), QStringList({"MenuSuono", "Menuita", "menuL2"}));
+        game->trigger("menuL1");
+        QCOMPARE(game->folder.read("ZARMOLO.INI"),
+                 std::string("Livello=200\r\nSuono=SI\r\nTempo=90\r\nGiocatore1=BRIVO\r\n"
+                             "SpessoreLinea= 1 \r\nDizionario= 1 \r\n"));
+        game->trigger("MenuExpert");
+        QCOMPARE(game->timer("Timer2")->interval(), 100);
+        game->trigger("MenuSuono");
+        game->trigger("Menu300s");
+        QCOMPARE(announced.size(), 1);
+        QVERIFY(running("Timer1"));
+        QCOMPARE(state().tempoPartita, 300);
         // The language already checked does nothing; another one restarts with its dictionary.
-        action("Menuita")->trigger();
-        QVERIFY(action("Menuita")->isChecked());
-        QCOMPARE(announcements, 1);
-        action("Menuing")->trigger();
-        QCOMPARE(announcements, 2);
-        QCOMPARE(window->windowTitle(), QString("Il Griglione - Dizionario English"));
-        QVERIFY(folder->read("ZARMOLO.INI").find("Dizionario= 2 \r\n") != std::string::npos);
+        game->trigger("Menuita");
+        QCOMPARE(game->checkedItems(),
+                 QStringList({"Menu300s", "MenuExpert", "Menuita", "menuL1"}));
+        QCOMPARE(announced.size(), 1);
+        game->trigger("Menuing");
+        QCOMPARE(announced.size(), 2);
+        QCOMPARE(game->window->windowTitle(), QString("Il Griglione - Dizionario English"));
+        QCOMPARE(game->folder.read("ZARMOLO.INI"),
+                 std::string("Livello=100\r\nSuono=NO\r\nTempo=270\r\nGiocatore1=BRIVO\r\n"
+                             "SpessoreLinea= 1 \r\nDizionario= 2 \r\n"));
     }
 
-    void theLineWidthIsReadMappedDrawnAndStored_data() {
-        QTest::addColumn<QByteArray>("stored");
-        QTest::addColumn<QString>("item");
-        QTest::addColumn<int>("pixels");
-        QTest::addColumn<QByteArray>("written");
-        QTest::newRow("5 is taken as 7") << QByteArray("5") << "menuL2" << 12 << QByteArray(" 7 ");
-        QTest::newRow("13") << QByteArray(" 13 ") << "menuL3" << 18 << QByteArray(" 13 ");
-        QTest::newRow("1") << QByteArray("1") << "menuL1" << 6 << QByteArray(" 1 ");
-    }
     void theLineWidthIsReadMappedDrawnAndStored() {
-        QFETCH(QByteArray, stored);
-        QFETCH(QString, item);
-        QFETCH(int, pixels);
-        QFETCH(QByteArray, written);
-        folder->write("ZARMOLO.INI", "SpessoreLinea=" + stored.toStdString() + "\r\n");
-        open();
-        QVERIFY(action(qPrintable(item))->isChecked());
-        newMatch();
-        child<QTimer>("Timer2")->stop();
-        press(0);
-        press(1);
-        QCOMPARE(drawnLineWidth(), pixels);
-        action("MenuBir")->trigger();
-        const std::string line = "SpessoreLinea=" + written.toStdString() + "\r\n";
-        QVERIFY(folder->read("ZARMOLO.INI").find(line) != std::string::npos);
-    }
-
-    void aSettingsFileThatCannotBeWrittenIsReportedAndTheGameGoesOn() {
-        open();
-        std::filesystem::create_directory(folder->path() / "ZARMOLO.INI"); // blocks the rename
-        action("MenuMedio")->trigger();
-        QCOMPARE(alerts.shown.size(), std::size_t(1));
-        QCOMPARE(alerts.shown[0],
-                 std::string("Errore 001: impossibile riscivere il file di inizializzazione "
-                             "ZARMOLO.INI"));
-        QCOMPARE(child<QTimer>("Timer2")->interval(), 300);
-        QVERIFY(action("MenuMedio")->isChecked());
-        QVERIFY(std::filesystem::is_directory(folder->path() / "ZARMOLO.INI"));
-    }
-
-    void theNameIsUpperCasedAndSavedWhenTheBoxLosesTheFocus() {
-        open();
-        QApplication::setActiveWindow(window.get());
-        auto* name = child<QLineEdit>("Text1");
-        name->setFocus();
-        name->setText("mario");
-        child<QListWidget>("List1")->setFocus();
-        QCOMPARE(name->text(), QString("MARIO"));
-        QVERIFY(folder->read("ZARMOLO.INI").find("Giocatore1=MARIO\r\n") != std::string::npos);
+        const struct {
+            const char *stored, *item;
+            int pixels;
+            const char* written;
+        } cases[] = {
+            {"5", "menuL2", 12, " 7 "}, {" 13 ", "menuL3", 18, " 13 "}, {"1", "menuL1", 6, " 1 "}};
+        for (const auto& c : cases) {
+            init();
+            open(std::string("SpessoreLinea=") + c.stored + "\r\n");
+            QVERIFY2(game->get<QAction>(c.item)->isChecked(), c.item);
+            game->trigger("menuNuovo");
+            game->timer("Timer2")->stop();
+            game->press(0);
+            game->press(1);
+            QCOMPARE(drawnLineWidth(), c.pixels);
+            game->trigger("MenuBir");
+            const std::string line = std::string("SpessoreLinea=") + c.written + "\r\n";
+            QVERIFY2(game->folder.read("ZARMOLO.INI").find(line) != std::string::npos, c.item);
+            cleanup();
+        }
     }
 
     void twoShortMatchesAgainstTheFastestOpponentShareOneResultWindow() {
-        WordLists words;
-        words[0] = {"AAA", "EEE"}; // words any board of only A and E is full of
-        folder->write("SLESSICO.1", buildDictionaryFile("test", words));
-        folder->write("ZARMOLO.INI", "Livello=100\r\nTempo=30\r\n");
-        open();
-        newMatch();
-        setBoard("AEAEAEAEAEAEAEAEAEAEAEAEA");
-        const auto aeBoard = window->state().immagineCella;
-        auto* timer1 = child<QTimer>("Timer1");
-        auto* timer2 = child<QTimer>("Timer2");
+        game->folder.write("SLESSICO.1", buildDictionaryFile("test", {{{"AAA", "EEE"}}}));
+        open("Livello=100\r\nTempo=30\r\n");
+        game->trigger("menuNuovo");
+        game->setBoard("AEAEAEAEAEAEAEAEAEAEAEAEA"); // full of both words
+        const auto aeBoard = state().immagineCella;
+        QTimer* timer1 = game->timer("Timer1");
+        QTimer* timer2 = game->timer("Timer2");
         // The clock waits for the opponent to find both words, and the opponent then rests, so that
         // no walk is halfway through a yield when the time runs out.
         timer1->setInterval(60'000);
         timer2->setInterval(1);
-        QTRY_COMPARE_WITH_TIMEOUT(window->state().puntiCPU, 360, 10000);
+        QTRY_COMPARE_WITH_TIMEOUT(state().puntiCPU, 360, 10000);
         timer2->stop();
         timer1->setInterval(1);
         int shown = 0, nestedTicks = 0, opponentRan = 0;
-        QString result, history, cpuName, wins;
-        QStringList historyAfterTwo;
+        bool reviewKeptTheClockStopped = false;
+        QStringList first, history, reviewed;
+        QImage reviewBoard;
         std::function<void(QWidget*)> onResult = [&](QWidget* w) {
             ++shown;
             opponentRan += timer2->isActive();
-            auto* list = w->findChild<QListWidget*>("List1");
+            auto* list = child<QListWidget>(w, "List1");
             if (shown == 1) {
-                result = w->findChild<QLabel*>("Label1")->text();
-                cpuName = w->findChild<QLabel*>("Label3_1")->text();
-                history = list->item(0)->text();
-                wins = w->findChild<QLabel*>("Label10")->text();
+                for (const char* label : {"Label1", "Label3_1", "Label10"})
+                    first << child<QLabel>(w, label)->text();
+                first << list->item(0)->text();
                 // Ticks falling due now are dropped: with a longer match they would count on.
-                const int elapsed = window->state().secondiTrascorsi;
-                window->state().tempoPartita = 1000;
+                const int elapsed = state().secondiTrascorsi;
+                state().tempoPartita = 1000;
                 timer1->start(0);
                 QTest::qWait(30);
                 timer1->stop();
-                nestedTicks = window->state().secondiTrascorsi - elapsed;
+                nestedTicks = state().secondiTrascorsi - elapsed;
             } else {
-                for (int i = 0; i < list->count(); ++i)
-                    historyAfterTwo << list->item(i)->text();
-                clickButton(w, "Command2");
+                history = texts(list);
+                whenShown("Form10", [&](QWidget* review) {
+                    for (const char* label : {"Label1", "Label4"})
+                        reviewed << child<QLabel>(review, label)->text();
+                    auto* missed = child<QListWidget>(review, "List3");
+                    QTest::mouseClick(missed->viewport(), Qt::LeftButton, {},
+                                      missed->visualItemRect(missed->item(0)).center());
+                    reviewBoard = child(review, "board")->grab().toImage();
+                    reviewKeptTheClockStopped = !timer1->isActive() && !timer2->isActive();
+                    click(review, "Command2");
+                });
+                click(w, "Command3");
+                reviewKeptTheClockStopped &= w->isVisible() && !timer1->isActive();
+                click(w, "Command2");
             }
             timer1->setInterval(60'000); // nothing moves while the new board is looked at
             timer2->setInterval(60'000);
-            clickButton(w, "Command1");
+            click(w, "Command1");
         };
-        whenShown("Form2", onResult, 2000);
+        whenShown("Form2", onResult);
         QTRY_COMPARE_WITH_TIMEOUT(shown, 1, 10000);
-        QCOMPARE(result, QString("Ha vinto Sapienzo (CPU)"));
-        QCOMPARE(cpuName, QString("Sapienzo (CPU)"));
-        QCOMPARE(history, QString("  1) BRIVO    0   Computer  360"));
-        QCOMPARE(wins, QString(" 1"));
-        QVERIFY(std::find(sounds.played.begin(), sounds.played.end(), "explode2.wav") !=
-                sounds.played.end());
+        QCOMPARE(first, QStringList({"Ha vinto Sapienzo (CPU)", "Sapienzo (CPU)", " 1",
+                                     "  1) BRIVO    0   Computer  360"}));
+        QVERIFY(game->sounds.played.end() !=
+                std::find(game->sounds.played.begin(), game->sounds.played.end(), "explode2.wav"));
         QCOMPARE(nestedTicks, 0);
-        QCOMPARE(terminated, 0);
+        QCOMPARE(game->terminated, 0);
         // "&OK": the next match is under way on a new board, from nothing.
         QVERIFY(timer1->isActive() && timer2->isActive());
-        QVERIFY(window->state().immagineCella != aeBoard);
-        QCOMPARE(child<QLabel>("Label10")->text(), QString("0"));
-        QCOMPARE(child<QLabel>("Label11")->text(), QString("0"));
-        QCOMPARE(child<QLabel>("Label4")->text(), QString("0s"));
-        QCOMPARE(child<TimeBar>("Picture2")->filledWidth(), 0);
-        QCOMPARE(child<QListWidget>("List2")->count(), 0);
+        QVERIFY(state().immagineCella != aeBoard);
+        QCOMPARE(QStringList({text("Label10"), text("Label11"), text("Label4")}),
+                 QStringList({"0", "0", "0s"}));
+        QCOMPARE(game->get<TimeBar>("Picture2")->filledWidth(), 0);
+        QCOMPARE(game->get<QListWidget>("List2")->count(), 0);
 
-        window->state().tempoPartita = 2;
+        game->setBoard("AEAEAEAEAEAEAEAEAEAEAEAEA"); // now nobody finds a word on it
+        state().tempoPartita = 2;
         timer1->setInterval(1);
-        whenShown("Form2", onResult, 2000);
+        whenShown("Form2", onResult);
         QTRY_COMPARE_WITH_TIMEOUT(shown, 2, 10000);
         QCOMPARE(opponentRan, 0);
-        QCOMPARE(historyAfterTwo.size(), 2);
-        QCOMPARE(historyAfterTwo[0], history);
-        QCOMPARE(terminated, 1); // "&Annulla"
+        QCOMPARE(history.size(), 2);
+        QCOMPARE(history[0], first.last());
+        QCOMPARE(game->terminated, 1); // "&Annulla"
+        QVERIFY(timer1->isActive());   // and "&OK", after the review, goes on all the same
+        QCOMPARE(reviewed, QStringList({"Il tabellone nascondeva 2 parole per 360 punti in tutto.",
+                                        "Parole &mancate\n2 parole, 360 punti"}));
+        QVERIFY(reviewKeptTheClockStopped);
+        // "aaa" first runs from die 0 through die 6 to die 2: the line crosses the centres of
+        // dice 6 and 2, not that of die 24.
+        const auto lineAt = [&](int x, int y) {
+            return reviewBoard.pixelColor(x, y) == QColor(0, 0, 128);
+        };
+        QVERIFY(lineAt(100, 100) && lineAt(164, 36) && !lineAt(292, 292));
     }
 };
 

@@ -1,11 +1,9 @@
 // An installed game: the program's folder cannot be written and the shipped files lie in the data
 // folder beside it; what the player changes is kept in the player's own folder.
-#include "board/board_layout.h"
 #include "core/atomic_file.h"
 #include "core/file_names.h"
 #include "platform/game_folder.h"
 #include "tests/support/window_harness.h"
-#include "ui/die_cell.h"
 
 #include <QDir>
 #include <QRadioButton>
@@ -24,8 +22,8 @@ private slots:
                        data = tree / "share/games/griglione", player = tree / "xdg/griglione";
         fs::create_directories(program);
         fs::create_directories(data);
-        std::ofstream(data / "SLESSICO.1", std::ios::binary)
-            << buildDictionaryFile("test", WordLists{{{"ERA"}}});
+        game.folder.write("share/games/griglione/SLESSICO.1",
+                          buildDictionaryFile("test", {{{"ERA"}}}));
         fs::permissions(program, fs::perms::owner_write, fs::perm_options::remove);
         qputenv("XDG_DATA_HOME", QByteArray::fromStdString((tree / "xdg").string()));
         const QString before = QDir::currentPath();
@@ -38,11 +36,9 @@ private slots:
         game.trigger("MenuSuono");
         game.trigger("menuNuovo");
         game.timer("Timer2")->stop();
+        game.setBoard("ZEBRA");
         for (int n = 0; n < 5; ++n)
-            game.window->state().immagineCella[n] = dieName("ZEBRA"[n], 1);
-        game.window->changed(Aspect::Board);
-        for (int n = 0; n < 5; ++n)
-            QTest::mouseClick(game.get(qPrintable(QString("Picture1_%1").arg(n))), Qt::LeftButton);
+            game.press(n);
         whenShown("Form6", [](QWidget* confirm) {
             child<QRadioButton>(confirm, "Option1")->setChecked(true);
             child<QAbstractButton>(confirm, "Command1")->click();
