@@ -22,10 +22,9 @@ std::vector<std::string> trimmedLines(const std::vector<std::string>& file,
     for (std::string line; std::getline(in, line);)
         out.push_back(line);
     for (const std::string& line : file) {
-        if (line[0] == '+' || line[0] == '-')
-            EXPECT_EQ(std::find(out.begin(), out.end(), line.substr(1)) != out.end(),
-                      line[0] == '+')
-                << line;
+        if (line[0] != '+' && line[0] != '-') continue;
+        EXPECT_EQ(std::find(out.begin(), out.end(), line.substr(1)) != out.end(), line[0] == '+')
+            << line;
     }
     return out;
 }
