@@ -32,14 +32,10 @@ struct TracingTest : ::testing::Test, BoardParts<> {
     }
 };
 
-TEST_F(TracingTest, NoMatchRunningStartsOneAndSelectsNothing) {
+// With no match running a press starts one and selects nothing.
+TEST_F(TracingTest, SelectingDrawsADotThenSegmentsMeetingAtTheEdge) {
     EXPECT_EQ(board.press(3, kRightButton, false), PressResult::StartMatch);
     EXPECT_EQ(board.press(3, kLeftButton, false), PressResult::StartMatch);
-    EXPECT_EQ(state.parolaComposta, "");
-    EXPECT_TRUE(sounds.played.empty());
-}
-
-TEST_F(TracingTest, SelectingDrawsADotThenSegmentsMeetingAtTheEdge) {
     EXPECT_EQ(board.press(0, kLeftButton, true), PressResult::Selected);
     EXPECT_EQ(board.path().marks(0).line1, (Segment{Anchor::Centre, Anchor::Centre}));
     EXPECT_EQ(board.press(6, kMiddleButton, true), PressResult::Selected);
@@ -55,13 +51,12 @@ TEST_F(TracingTest, RefusedPressesKeepTheWordAndTheLastDie) {
     sounds.played.clear();
     EXPECT_EQ(board.press(5, kLeftButton, true), PressResult::NotAdjacent);
     EXPECT_EQ(sounds.played, (std::vector<std::string>{"SND0002.wav", "beep"}));
-    ASSERT_EQ(messages.shown.size(), 1u);
-    EXPECT_EQ(messages.shown[0].titolo, "OOPS!");
-    EXPECT_EQ(messages.shown[0].intestazione, "Lettera non adiacente");
-    EXPECT_EQ(messages.shown[0].testo,
-              "Attenzione : La lettera deve essere adiacente a quella cliccata in precedenza! Per "
-              "scrivere una nuova parola cliccare il pulsante <Azzera>");
-    EXPECT_FALSE(messages.modal[0]);
+    EXPECT_EQ(messages.shown, (std::vector<Messaggio>{{"OOPS!", "Lettera non adiacente",
+                                                       "Attenzione : La lettera deve essere "
+                                                       "adiacente a quella cliccata in precedenza! "
+                                                       "Per scrivere una nuova parola cliccare il "
+                                                       "pulsante <Azzera>"}}));
+    EXPECT_EQ(messages.modal, std::vector<bool>{false});
     EXPECT_FALSE(state.cellaUsata[5]);
     EXPECT_EQ(state.ultimaCella, 4);
     for (int far : {14, 2}) // two rows down, two columns left

@@ -36,17 +36,12 @@ struct SubmissionTest : ::testing::Test, BoardParts<> {
         board.azzeraParola();
         state.parolaComposta = word;
     }
-    std::vector<std::string> played() const { return sounds.played; }
 
     TempFolder folder;
     OpenFileTable files;
     FakeAlerts alerts;
-    std::function<void()> yieldAction;
-    Dictionary dictionary{state, files, alerts,
-                          [this] {
-                              if (yieldAction) yieldAction();
-                          },
-                          folder.path()};
+    std::function<void()> yieldAction = [] {};
+    Dictionary dictionary{state, files, alerts, [this] { yieldAction(); }, folder.path()};
     FakePrompt prompt;
     WordSubmission submission{state, board, dictionary, files, sounds, messages, view, prompt};
 };
@@ -54,14 +49,13 @@ struct SubmissionTest : ::testing::Test, BoardParts<> {
 TEST_F(SubmissionTest, AcceptedWordScoresAndJoinsThePlayersList) {
     trace("CASA");
     submission.inviaParola();
-    EXPECT_EQ(played(), (std::vector<std::string>{"vinci.wav"}));
-    ASSERT_EQ(messages.shown.size(), 1u);
-    EXPECT_EQ(messages.shown[0], (Messaggio{"BENE!", "Complimenti, parola accettata!",
-                                            "Complimenti la parola è presente nel dizionario, "
-                                            "verranno aggiunti:320 punti"}));
-    EXPECT_FALSE(messages.modal[0]);
+    EXPECT_EQ(sounds.played, (std::vector<std::string>{"vinci.wav"}));
+    EXPECT_EQ(messages.shown,
+              (std::vector<Messaggio>{{"BENE!", "Complimenti, parola accettata!",
+                                       "Complimenti la parola è presente nel "
+                                       "dizionario, verranno aggiunti:320 punti"}}));
+    EXPECT_EQ(messages.modal, std::vector<bool>{false});
     EXPECT_EQ(state.puntiGiocatore, 320);
-    EXPECT_EQ(state.paroleGiocatore, std::vector<std::string>{"casa"});
     EXPECT_EQ(state.parolaComposta, "");
     trace("ABCDEFGHIJKLM"); // judged and listed by its first ten letters
     submission.inviaParola();
@@ -70,21 +64,25 @@ TEST_F(SubmissionTest, AcceptedWordScoresAndJoinsThePlayersList) {
     EXPECT_EQ(view.busy, (std::vector<bool>{true, false, true, false}));
 }
 
-TEST_F(SubmissionTest, LengthMessagesKeepTheTracedWord) {
+// Too short, or already found by either side (by both: the player's own message): no points.
+TEST_F(SubmissionTest, RefusedWordsScoreNothing) {
+    state.paroleGiocatore = {"casa"};
+    state.paroleCPU = {"mare", "casa"};
     const struct {
-        const char* word;
-        const char* sound;
-        const char* heading;
-        const char* text;
+        const char *word, *after, *sounds, *heading, *text;
     } cases[] = {
-        {"", "DOOLANE.WAV", "Inserisci una parola!",
+        {"", "", "DOOLANE.WAV ", "Inserisci una parola!",
          "Formare una parola di senso compiuto cliccando su lettere adiacenti tra di loro "
          "orizzontalmente, verticalmente e diagonalmente, la stessa lettera non può essere usata "
          "più di una volta per comporre la parola. Le parole già trovate (anche dal PC) non "
          "possono ovviamente essere riutilizzate."},
-        {"OR", "SHOOT1.WAV", "Parola troppo corta!",
+        {"OR", "OR", "SHOOT1.WAV ", "Parola troppo corta!",
          "Attenzione: Devi inserire una parola in Italiano che deve essere composta almeno da 3 "
          "caratteri."},
+        {"CASA", "", "ROCHAN3.WAV COLLAPSE.WAV ", "Parola già inserita da te!",
+         "Hai già precedentemente inserito la parola: CASA mi dispiace, punteggio non assegnato."},
+        {"MARE", "", "ROCHAN3.WAV COLLAPSE.WAV ", "Parola già inserita dalla CPU!",
+         "Il computer ha già inserito la parola: MARE mi dispiace, punteggio non assegnato"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.word);
@@ -92,33 +90,16 @@ TEST_F(SubmissionTest, LengthMessagesKeepTheTracedWord) {
         messages.shown.clear();
         trace(c.word);
         submission.inviaParola();
-        EXPECT_EQ(played(), std::vector<std::string>{c.sound});
-        ASSERT_EQ(messages.shown.size(), 1u);
-        EXPECT_EQ(messages.shown[0], (Messaggio{"OOPS!", c.heading, c.text}));
-        EXPECT_EQ(state.parolaComposta, c.word);
+        std::string played;
+        for (const std::string& sound : sounds.played)
+            played += sound + " ";
+        EXPECT_EQ(played, c.sounds);
+        EXPECT_EQ(messages.shown, (std::vector<Messaggio>{{"OOPS!", c.heading, c.text}}));
+        EXPECT_EQ(state.parolaComposta, c.after);
         EXPECT_FALSE(submission.busy());
     }
-}
-
-TEST_F(SubmissionTest, AWordAlreadyFoundByEitherSideIsClearedWithoutPoints) {
-    state.paroleGiocatore = {"casa"};
-    state.paroleCPU = {"mare", "casa"}; // found by both: the player's own message
-    trace("CASA");
-    submission.inviaParola();
-    EXPECT_EQ(played(), (std::vector<std::string>{"ROCHAN3.WAV", "COLLAPSE.WAV"}));
-    EXPECT_EQ(messages.shown.back(),
-              (Messaggio{"OOPS!", "Parola già inserita da te!",
-                         "Hai già precedentemente inserito la parola: CASA mi dispiace, "
-                         "punteggio non assegnato."}));
-    EXPECT_EQ(state.parolaComposta, "");
-    trace("MARE");
-    submission.inviaParola();
-    EXPECT_EQ(messages.shown.back(),
-              (Messaggio{"OOPS!", "Parola già inserita dalla CPU!",
-                         "Il computer ha già inserito la parola: MARE mi dispiace, punteggio "
-                         "non assegnato"}));
     EXPECT_EQ(state.puntiGiocatore, 0);
-    EXPECT_EQ(state.paroleGiocatore.size(), 1u);
+    EXPECT_EQ(state.paroleGiocatore, std::vector<std::string>{"casa"});
 }
 
 TEST_F(SubmissionTest, TheConfirmationsThreeAnswers) {
@@ -138,7 +119,7 @@ TEST_F(SubmissionTest, TheConfirmationsThreeAnswers) {
         trace(c.word);
         submission.inviaParola();
         EXPECT_EQ(prompt.asked.back(), c.word);
-        EXPECT_EQ(played().front(), "perdi.wav");
+        EXPECT_EQ(sounds.played.front(), "perdi.wav");
         EXPECT_EQ(folder.read("ZarmPriv.1"), c.vocabulary);
         EXPECT_EQ(state.puntiGiocatore, c.points);
         EXPECT_EQ(state.paroleGiocatore.size(), c.listed);
@@ -154,10 +135,24 @@ TEST_F(SubmissionTest, TheConfirmationsThreeAnswers) {
     EXPECT_EQ(state.puntiGiocatore, 1000);
 }
 
+TEST_F(SubmissionTest, AWordThatCannotBeStoredIsReportedAndTheVocabularyKept) {
+    folder.write("ZarmPriv.1", "ZEBRA");
+    prompt.answer = 1;
+    trace("ZOCCA");
+    {
+        WriteLimit full(4); // the line end for the unfinished last line, and half the word
+        submission.inviaParola();
+    }
+    EXPECT_EQ(folder.read("ZarmPriv.1"), "ZEBRA");
+    EXPECT_EQ(alerts.shown, std::vector<std::string>{"Errore 0003: impossibile scrivere il file "
+                                                     "del vocabolario personale ZarmPriv.1, la "
+                                                     "parola non è stata salvata"});
+}
+
 TEST_F(SubmissionTest, ASecondSubmissionDuringTheScanDoesNothing) {
     int nested = 0;
     yieldAction = [&] {
-        yieldAction = nullptr;
+        yieldAction = [] {};
         ++nested;
         submission.inviaParola(); // Enter pressed again while the first one scans
         EXPECT_TRUE(submission.busy());
@@ -172,7 +167,7 @@ TEST_F(SubmissionTest, ASecondSubmissionDuringTheScanDoesNothing) {
 TEST_F(SubmissionTest, ASubmissionClosesTheFileOfAYieldingOpponentLookup) {
     std::string opponentAnswer;
     yieldAction = [&] {
-        yieldAction = nullptr;
+        yieldAction = [] {};
         trace("ORA");
         submission.inviaParola();
     };

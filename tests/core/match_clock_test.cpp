@@ -19,14 +19,11 @@ TEST(MatchClock, ASixtySecondMatchEndsOnItsSixtyFirstTick) {
 }
 
 TEST(MatchClock, BarGrowsInProportionHalvesToEven) {
-    const struct {
-        int inner, tempo, seconds, width;
-    } cases[] = {
-        {100, 60, 3, 5}, {105, 60, 2, 4}, {105, 60, 6, 10}, {100, 300, 4, 1}, {100, 0, 5, 0},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(timeBarWidth(c.inner, c.tempo, c.seconds), c.width)
-            << c.inner << "/" << c.tempo << "*" << c.seconds;
+    const std::array<int, 4> cases[] = {
+        {100, 60, 3, 5}, {105, 60, 2, 4}, {105, 60, 6, 10}, {100, 300, 4, 1}, {100, 0, 5, 0}};
+    for (const auto& [inner, tempo, seconds, width] : cases)
+        EXPECT_EQ(timeBarWidth(inner, tempo, seconds), width)
+            << inner << "/" << tempo << "*" << seconds;
 }
 
 TEST(MatchClock, StartMessageNamesLengthLanguageAndTheLastCheckedLevelInItsOrder) {
@@ -36,21 +33,17 @@ TEST(MatchClock, StartMessageNamesLengthLanguageAndTheLastCheckedLevelInItsOrder
     const struct {
         std::array<bool, 4> checks;
         const char* level;
-    } cases[] = {
-        {{true, false, false, false}, "Junior (Birillo)"},
-        {{false, false, false, false}, ""},
-        {{false, false, true, true}, "Medio (Memo)"},
-        {{true, true, false, false}, "Principiante (Tapo)"},
-    };
-    for (const auto& c : cases) {
-        const Messaggio m = startMessage(state, c.checks);
-        EXPECT_EQ(m.titolo, "START");
-        EXPECT_EQ(m.intestazione, "Inizio partita");
-        EXPECT_EQ(m.testo, std::string("Si inizia una nuova partita di 120 secondi.\r\n"
-                                       "Il dizionario usato è : Italiano\r\n"
-                                       "Il livello dell'avversario è : ") +
-                               c.level + "\r\nCliccare il pulsante <OK> per giocare.");
-    }
+    } cases[] = {{{1, 0, 0, 0}, "Junior (Birillo)"},
+                 {{0, 0, 0, 0}, ""},
+                 {{0, 0, 1, 1}, "Medio (Memo)"},
+                 {{1, 1, 0, 0}, "Principiante (Tapo)"}};
+    for (const auto& c : cases)
+        EXPECT_EQ(startMessage(state, c.checks),
+                  (Messaggio{"START", "Inizio partita",
+                             std::string("Si inizia una nuova partita di 120 secondi.\r\n"
+                                         "Il dizionario usato è : Italiano\r\n"
+                                         "Il livello dell'avversario è : ") +
+                                 c.level + "\r\nCliccare il pulsante <OK> per giocare."}));
 }
 
 } // namespace
