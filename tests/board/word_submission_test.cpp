@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <utility>
 
 namespace griglione {
 namespace {
@@ -40,8 +41,11 @@ struct SubmissionTest : ::testing::Test, BoardParts<> {
     TempFolder folder;
     OpenFileTable files;
     FakeAlerts alerts;
-    std::function<void()> yieldAction = [] {};
-    Dictionary dictionary{state, files, alerts, [this] { yieldAction(); }, folder.path()};
+    std::function<void()> yieldAction; // runs once, at the next yield of a dictionary scan
+    void yielded() {
+        if (yieldAction) std::exchange(yieldAction, nullptr)();
+    }
+    Dictionary dictionary{state, files, alerts, [this] { yielded(); }, folder.path()};
     FakePrompt prompt;
     WordSubmission submission{state, board, dictionary, files, sounds, messages, view, prompt};
 };
@@ -104,14 +108,12 @@ TEST_F(SubmissionTest, RefusedWordsScoreNothing) {
 
 TEST_F(SubmissionTest, TheConfirmationsThreeAnswers) {
     const struct {
-        int answer;
-        const char* word;
-        const char* vocabulary;
-        int points;
+        int answer, points;
+        const char *word, *vocabulary;
         std::size_t listed;
-    } cases[] = {{3, "ZEBRA", "", 0, 0},
-                 {2, "ZEBRA", "ZEBRA\r\n", 0, 0},
-                 {1, "ZOCCA", "ZEBRA\r\nZOCCA\r\n", 500, 1}};
+    } cases[] = {{3, 0, "ZEBRA", "", 0},
+                 {2, 0, "ZEBRA", "ZEBRA\r\n", 0},
+                 {1, 500, "ZOCCA", "ZEBRA\r\nZOCCA\r\n", 1}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.answer);
         prompt.answer = c.answer;
@@ -152,7 +154,6 @@ TEST_F(SubmissionTest, AWordThatCannotBeStoredIsReportedAndTheVocabularyKept) {
 TEST_F(SubmissionTest, ASecondSubmissionDuringTheScanDoesNothing) {
     int nested = 0;
     yieldAction = [&] {
-        yieldAction = [] {};
         ++nested;
         submission.inviaParola(); // Enter pressed again while the first one scans
         EXPECT_TRUE(submission.busy());
@@ -165,14 +166,11 @@ TEST_F(SubmissionTest, ASecondSubmissionDuringTheScanDoesNothing) {
 }
 
 TEST_F(SubmissionTest, ASubmissionClosesTheFileOfAYieldingOpponentLookup) {
-    std::string opponentAnswer;
     yieldAction = [&] {
-        yieldAction = [] {};
         trace("ORA");
         submission.inviaParola();
     };
-    opponentAnswer = dictionary.cercaParola("MARE");
-    EXPECT_EQ(opponentAnswer, "BUSY");
+    EXPECT_EQ(dictionary.cercaParola("MARE"), "BUSY");
     EXPECT_EQ(state.paroleGiocatore, std::vector<std::string>{"ora"});
 }
 

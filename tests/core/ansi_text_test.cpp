@@ -4,8 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace griglione {
-namespace {
+using namespace griglione;
 
 TEST(AnsiText, ConvertsBothWaysAndChangesCase) {
     const std::pair<std::string, std::string> cases[] = {
@@ -22,6 +21,3 @@ TEST(AnsiText, ConvertsBothWaysAndChangesCase) {
     EXPECT_EQ(lowerAscii("CASA1"), "casa1");
     EXPECT_EQ(upperAscii("casa\xE0"), "CASA\xE0");
 }
-
-} // namespace
-} // namespace griglione

@@ -10,10 +10,9 @@
 
 #include <gtest/gtest.h>
 
-namespace griglione {
-namespace {
+using namespace griglione;
 
-using namespace testing;
+using namespace griglione::testing;
 namespace fs = std::filesystem;
 
 TEST(FileRobustness, EveryReaderTakesAFolderOrAHugeFileForAMissingOne) {
@@ -103,6 +102,3 @@ TEST(FileRobustness, AFolderThatRefusesNewFilesStillLetsAWritableFileBeRewritten
         EXPECT_EQ(folder.read("ZARMOLO.INI"), "new");
     }
 }
-
-} // namespace
-} // namespace griglione

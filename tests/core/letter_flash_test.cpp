@@ -5,8 +5,7 @@
 
 #include <tuple>
 
-namespace griglione {
-namespace {
+using namespace griglione;
 
 TEST(LetterFlash, StepsThroughLettersAndColours) {
     const std::tuple<int, int, int, int> expected[] = {
@@ -24,6 +23,3 @@ TEST(LetterFlash, StepsThroughLettersAndColours) {
             << at;
     }
 }
-
-} // namespace
-} // namespace griglione

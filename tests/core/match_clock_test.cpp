@@ -4,8 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace griglione {
-namespace {
+using namespace griglione;
 
 TEST(MatchClock, ASixtySecondMatchEndsOnItsSixtyFirstTick) {
     GameState state;
@@ -45,6 +44,3 @@ TEST(MatchClock, StartMessageNamesLengthLanguageAndTheLastCheckedLevelInItsOrder
                                          "Il livello dell'avversario è : ") +
                                  c.level + "\r\nCliccare il pulsante <OK> per giocare."}));
 }
-
-} // namespace
-} // namespace griglione

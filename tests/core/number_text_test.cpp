@@ -5,8 +5,7 @@
 
 #include <tuple>
 
-namespace griglione {
-namespace {
+using namespace griglione;
 
 TEST(NumberText, RoundsHalvesToEven) {
     const std::pair<double, int> cases[] = {{0.5, 0},   {1.5, 2},    {2.5, 2},    {-0.5, 0},
@@ -35,6 +34,3 @@ TEST(NumberText, GroupsThousandsWithThePoint) {
     for (const auto& [n, minDigits, text] : cases)
         EXPECT_EQ(groupedNumber(n, minDigits), text) << n << " " << minDigits;
 }
-
-} // namespace
-} // namespace griglione

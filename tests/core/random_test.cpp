@@ -6,8 +6,7 @@
 
 #include <set>
 
-namespace griglione {
-namespace {
+using namespace griglione;
 
 TEST(MixingRandom, DrawsSpreadOverZeroToOneAndTheSameClockReadingDoesNotRepeatThem) {
     MixingRandom random(42);
@@ -26,6 +25,3 @@ TEST(MixingRandom, DrawsSpreadOverZeroToOneAndTheSameClockReadingDoesNotRepeatTh
     }
     EXPECT_EQ(draws.size(), 25u);
 }
-
-} // namespace
-} // namespace griglione

@@ -80,13 +80,11 @@ TEST(SettingsFile, KeysAreCaseSensitiveAndFoundAnywhere) {
 }
 
 TEST(SettingsFile, WritesSixLinesInTheirOrderAndFormInWindows1252) {
-    Settings s;
-    s.timer2Interval = 200;
-    s.sound = false;
-    s.tempoPartita = 300;
-    s.playerName = "NICCOLÒ";
-    s.spessoreLinea = 13;
-    s.numDizionario = 3;
+    const Settings s{.sound = false,
+                     .tempoPartita = 300,
+                     .playerName = "NICCOLÒ",
+                     .spessoreLinea = 13,
+                     .numDizionario = 3};
     EXPECT_EQ(settingsFileBytes(s), "Livello=200\r\nSuono=NO\r\nTempo=270\r\nGiocatore1=NICCOL\xD2"
                                     "\r\nSpessoreLinea= 13 \r\nDizionario= 3 \r\n");
 }
