@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <deque>
-#include <functional>
 #include <set>
 #include <stdexcept>
 
@@ -51,7 +50,7 @@ protected:
     // Answers queued in `answers` come before the word set is asked.
     std::string lookup(const std::string& word) {
         lookups.push_back(word);
-        if (lookupAction) lookupAction();
+        if (nestTicks) walk.tick();
         if (answers.empty()) return words.count(word) ? "SI" : "NO";
         const std::string answer = answers.front();
         answers.pop_front();
@@ -72,11 +71,11 @@ protected:
     std::set<std::string> words{"MARE", "MAREA"};
     std::deque<std::string> answers;
     Words lookups;
-    std::function<void()> lookupAction, yieldAction;
+    bool nestTicks = false; // a tick from inside every lookup and yield
     std::vector<std::int32_t> yieldScores;
     void yielded() {
         yieldScores.push_back(state.puntiCPU);
-        if (yieldAction) yieldAction();
+        if (nestTicks) walk.tick();
     }
     OpponentWalk walk{state,
                       random,
@@ -150,7 +149,7 @@ TEST_F(OpponentWalkTest, MareThenMareaScoreInOneTickUnlessEitherPlayerHoldsAWord
         {{}, {"mare"}, 2, {"mare"}, 0},
         {{"marea"}, {}, 3, {"mare"}, 320},
     };
-    lookupAction = yieldAction = [&] { walk.tick(); };
+    nestTicks = true;
     for (const auto& c : cases) {
         state.paroleGiocatore = c.human;
         state.paroleCPU = c.computer;
