@@ -50,60 +50,53 @@ struct SubmissionTest : ::testing::Test, BoardParts<> {
     WordSubmission submission{state, board, dictionary, files, sounds, messages, view, prompt};
 };
 
-TEST_F(SubmissionTest, AcceptedWordScoresAndJoinsThePlayersList) {
-    trace("CASA");
-    submission.inviaParola();
-    EXPECT_EQ(sounds.played, (std::vector<std::string>{"vinci.wav"}));
-    EXPECT_EQ(messages.shown,
-              (std::vector<Messaggio>{{"BENE!", "Complimenti, parola accettata!",
-                                       "Complimenti la parola è presente nel "
-                                       "dizionario, verranno aggiunti:320 punti"}}));
-    EXPECT_EQ(messages.modal, std::vector<bool>{false});
-    EXPECT_EQ(state.puntiGiocatore, 320);
-    EXPECT_EQ(state.parolaComposta, "");
-    trace("ABCDEFGHIJKLM"); // judged and listed by its first ten letters
-    submission.inviaParola();
-    EXPECT_EQ(state.puntiGiocatore, 2320);
-    EXPECT_EQ(state.paroleGiocatore, (std::vector<std::string>{"casa", "abcdefghij"}));
-    EXPECT_EQ(view.busy, (std::vector<bool>{true, false, true, false}));
-}
-
-// Too short, or already found by either side (by both: the player's own message): no points.
-TEST_F(SubmissionTest, RefusedWordsScoreNothing) {
-    state.paroleGiocatore = {"casa"};
-    state.paroleCPU = {"mare", "casa"};
+// Too short, already found by either side (by both: the player's own message), or accepted: only
+// the last scores, and the word is cleared unless it was too short.
+TEST_F(SubmissionTest, EachOutcomeHasItsMessageSoundsAndPoints) {
+    state.paroleGiocatore = {"ora"};
+    state.paroleCPU = {"mare", "ora"};
     const struct {
-        const char *word, *after, *sounds, *heading, *text;
+        const char *word, *after, *sounds;
+        int points;
+        const char *title, *heading, *text;
     } cases[] = {
-        {"", "", "DOOLANE.WAV ", "Inserisci una parola!",
+        {"", "", "DOOLANE.WAV ", 0, "OOPS!", "Inserisci una parola!",
          "Formare una parola di senso compiuto cliccando su lettere adiacenti tra di loro "
          "orizzontalmente, verticalmente e diagonalmente, la stessa lettera non può essere usata "
          "più di una volta per comporre la parola. Le parole già trovate (anche dal PC) non "
          "possono ovviamente essere riutilizzate."},
-        {"OR", "OR", "SHOOT1.WAV ", "Parola troppo corta!",
+        {"OR", "OR", "SHOOT1.WAV ", 0, "OOPS!", "Parola troppo corta!",
          "Attenzione: Devi inserire una parola in Italiano che deve essere composta almeno da 3 "
          "caratteri."},
-        {"CASA", "", "ROCHAN3.WAV COLLAPSE.WAV ", "Parola già inserita da te!",
-         "Hai già precedentemente inserito la parola: CASA mi dispiace, punteggio non assegnato."},
-        {"MARE", "", "ROCHAN3.WAV COLLAPSE.WAV ", "Parola già inserita dalla CPU!",
+        {"ORA", "", "ROCHAN3.WAV COLLAPSE.WAV ", 0, "OOPS!", "Parola già inserita da te!",
+         "Hai già precedentemente inserito la parola: ORA mi dispiace, punteggio non assegnato."},
+        {"MARE", "", "ROCHAN3.WAV COLLAPSE.WAV ", 0, "OOPS!", "Parola già inserita dalla CPU!",
          "Il computer ha già inserito la parola: MARE mi dispiace, punteggio non assegnato"},
+        {"CASA", "", "vinci.wav ", 320, "BENE!", "Complimenti, parola accettata!",
+         "Complimenti la parola è presente nel dizionario, verranno aggiunti:320 punti"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.word);
         sounds.played.clear();
-        messages.shown.clear();
+        messages = {};
         trace(c.word);
         submission.inviaParola();
         std::string played;
         for (const std::string& sound : sounds.played)
             played += sound + " ";
         EXPECT_EQ(played, c.sounds);
-        EXPECT_EQ(messages.shown, (std::vector<Messaggio>{{"OOPS!", c.heading, c.text}}));
+        EXPECT_EQ(messages.shown, (std::vector<Messaggio>{{c.title, c.heading, c.text}}));
         EXPECT_EQ(state.parolaComposta, c.after);
+        EXPECT_EQ(state.puntiGiocatore, c.points);
         EXPECT_FALSE(submission.busy());
     }
-    EXPECT_EQ(state.puntiGiocatore, 0);
-    EXPECT_EQ(state.paroleGiocatore, std::vector<std::string>{"casa"});
+    EXPECT_EQ(messages.modal, std::vector<bool>{false});
+    view.busy.clear();
+    trace("ABCDEFGHIJKLM"); // judged and listed by its first ten letters
+    submission.inviaParola();
+    EXPECT_EQ(state.puntiGiocatore, 2320);
+    EXPECT_EQ(state.paroleGiocatore, (std::vector<std::string>{"ora", "casa", "abcdefghij"}));
+    EXPECT_EQ(view.busy, (std::vector<bool>{true, false}));
 }
 
 TEST_F(SubmissionTest, TheConfirmationsThreeAnswers) {
