@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
 using namespace griglione;
 
 using namespace griglione::testing;
@@ -32,9 +34,16 @@ TEST(FileRobustness, EveryReaderTakesAFolderOrAHugeFileForAMissingOne) {
     }
 }
 
-// Writes that must fail leave the old file as it was, and no temporary file behind.
-TEST(FileRobustness, AFailedRewriteOrAppendLeavesTheOldFileByteForByte) {
-    const std::string old = "Livello=500\r\nSuono=SI\r\n";
+// Writes that must fail leave the old file as it was and no temporary file behind: the settings
+// rewrite and append, the records table and the rebuilt dictionary.
+TEST(FileRobustness, AFailedWriteLeavesTheOldFilesByteForByte) {
+    WordLists words;
+    words[0] = {"ERA", "ORA"};
+    const std::map<std::string, std::string> old = {
+        {"ZARMOLO.INI", "Livello=500\r\nSuono=SI\r\n"},
+        {"zarMolo.HIS", "ANNA, 2000 \r\n"},
+        {"SLESSICO.1", buildDictionaryFile("test", words)}};
+    words[0].push_back("UVA");
     const struct {
         const char* what;
         fs::perms filePerms;
@@ -47,43 +56,24 @@ TEST(FileRobustness, AFailedRewriteOrAppendLeavesTheOldFileByteForByte) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
         TempFolder folder;
-        const fs::path file = folder.path() / "ZARMOLO.INI";
-        folder.write("ZARMOLO.INI", old);
-        fs::permissions(file, c.filePerms);
-        std::optional<WriteLimit> full;
-        if (c.limit) full.emplace(*c.limit);
-        EXPECT_FALSE(writeFileAtomically(file, "Livello=100\r\n"));
-        EXPECT_FALSE(appendToFile(file, "Tempo=60\r\n"));
-        full.reset();
-        fs::permissions(file, fs::perms::owner_all);
-        EXPECT_EQ(folder.read("ZARMOLO.INI"), old);
-        EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 1);
-    }
-}
-
-// The records table and the rebuilt dictionary go through the same writes: a disk that fills
-// part-way leaves the old file whole and nothing beside it.
-TEST(FileRobustness, AFailedRecordOrDictionaryRewriteLeavesTheOldFile) {
-    WordLists words;
-    words[0] = {"ERA", "ORA"};
-    const std::string oldDictionary = buildDictionaryFile("test", words);
-    for (const std::size_t limit : {std::size_t{0}, std::size_t{300}}) {
-        SCOPED_TRACE(limit);
-        TempFolder folder;
-        folder.write("zarMolo.HIS", "ANNA, 2000 \r\n");
-        folder.write("SLESSICO.1", oldDictionary);
+        const fs::path f = folder.path();
+        for (const auto& [name, bytes] : old)
+            folder.write(name, bytes), fs::permissions(f / name, c.filePerms);
         GameState state;
         state.inserisciRecord = true;
         state.puntiGiocatore = 1500;
-        {
-            WriteLimit full(limit);
-            riempiTabella(state, "BRIVO", folder.path() / "zarMolo.HIS");
-            words[0].push_back("UVA");
-            EXPECT_FALSE(rebuildDictionary(folder.path(), 1, "test", words));
+        std::optional<WriteLimit> full;
+        if (c.limit) full.emplace(*c.limit);
+        EXPECT_FALSE(writeFileAtomically(f / "ZARMOLO.INI", "Livello=100\r\n"));
+        EXPECT_FALSE(appendToFile(f / "ZARMOLO.INI", "Tempo=60\r\n"));
+        riempiTabella(state, "BRIVO", f / "zarMolo.HIS");
+        EXPECT_TRUE(!c.limit || !rebuildDictionary(f, 1, "test", words)); // on a full disk only
+        full.reset();
+        for (const auto& [name, bytes] : old) {
+            fs::permissions(f / name, fs::perms::owner_all);
+            EXPECT_EQ(folder.read(name), bytes) << name;
         }
-        EXPECT_EQ(folder.read("zarMolo.HIS"), "ANNA, 2000 \r\n");
-        EXPECT_EQ(folder.read("SLESSICO.1"), oldDictionary);
-        EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 2);
+        EXPECT_EQ(std::distance(fs::directory_iterator(f), {}), 3);
     }
 }
 
