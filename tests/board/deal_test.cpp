@@ -4,7 +4,7 @@
 #include "board/board_layout.h"
 #include "tests/support/board_parts.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace griglione {
 namespace {
@@ -45,8 +45,7 @@ TEST_F(DealTest, BlankDealAndTheResetsOfEveryDeal) {
     state.puntiGiocatore = 500;
     board.press(0, kLeftButton, true);
     board.lanciaDadi(false);
-    for (const std::string& cell : state.immagineCella)
-        EXPECT_EQ(cell, "zarMolo.gif");
+    EXPECT_THAT(state.immagineCella, ::testing::Each(std::string("zarMolo.gif")));
     EXPECT_TRUE(state.paroleGiocatore.empty());
     EXPECT_EQ(state.puntiGiocatore, 0);
     EXPECT_EQ(state.parolaComposta, "");

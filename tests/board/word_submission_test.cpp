@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <utility>
 
 namespace griglione {
 namespace {
@@ -36,101 +37,76 @@ struct SubmissionTest : ::testing::Test, BoardParts<> {
         board.azzeraParola();
         state.parolaComposta = word;
     }
-    std::vector<std::string> played() const { return sounds.played; }
 
     TempFolder folder;
     OpenFileTable files;
     FakeAlerts alerts;
-    std::function<void()> yieldAction;
-    Dictionary dictionary{state, files, alerts,
-                          [this] {
-                              if (yieldAction) yieldAction();
-                          },
-                          folder.path()};
+    std::function<void()> yieldAction; // runs once, at the next yield of a dictionary scan
+    void yielded() {
+        if (yieldAction) std::exchange(yieldAction, nullptr)();
+    }
+    Dictionary dictionary{state, files, alerts, [this] { yielded(); }, folder.path()};
     FakePrompt prompt;
     WordSubmission submission{state, board, dictionary, files, sounds, messages, view, prompt};
 };
 
-TEST_F(SubmissionTest, AcceptedWordScoresAndJoinsThePlayersList) {
-    trace("CASA");
-    submission.inviaParola();
-    EXPECT_EQ(played(), (std::vector<std::string>{"vinci.wav"}));
-    ASSERT_EQ(messages.shown.size(), 1u);
-    EXPECT_EQ(messages.shown[0], (Messaggio{"BENE!", "Complimenti, parola accettata!",
-                                            "Complimenti la parola è presente nel dizionario, "
-                                            "verranno aggiunti:320 punti"}));
-    EXPECT_FALSE(messages.modal[0]);
-    EXPECT_EQ(state.puntiGiocatore, 320);
-    EXPECT_EQ(state.paroleGiocatore, std::vector<std::string>{"casa"});
-    EXPECT_EQ(state.parolaComposta, "");
-    trace("ABCDEFGHIJKLM"); // judged and listed by its first ten letters
-    submission.inviaParola();
-    EXPECT_EQ(state.puntiGiocatore, 2320);
-    EXPECT_EQ(state.paroleGiocatore, (std::vector<std::string>{"casa", "abcdefghij"}));
-    EXPECT_EQ(view.busy, (std::vector<bool>{true, false, true, false}));
-}
-
-TEST_F(SubmissionTest, LengthMessagesKeepTheTracedWord) {
+// Too short, already found by either side (by both: the player's own message), or accepted: only
+// the last scores, and the word is cleared unless it was too short.
+TEST_F(SubmissionTest, EachOutcomeHasItsMessageSoundsAndPoints) {
+    state.paroleGiocatore = {"ora"};
+    state.paroleCPU = {"mare", "ora"};
     const struct {
-        const char* word;
-        const char* sound;
-        const char* heading;
-        const char* text;
+        const char *word, *after, *sounds;
+        int points;
+        const char *title, *heading, *text;
     } cases[] = {
-        {"", "DOOLANE.WAV", "Inserisci una parola!",
+        {"", "", "DOOLANE.WAV ", 0, "OOPS!", "Inserisci una parola!",
          "Formare una parola di senso compiuto cliccando su lettere adiacenti tra di loro "
          "orizzontalmente, verticalmente e diagonalmente, la stessa lettera non può essere usata "
          "più di una volta per comporre la parola. Le parole già trovate (anche dal PC) non "
          "possono ovviamente essere riutilizzate."},
-        {"OR", "SHOOT1.WAV", "Parola troppo corta!",
+        {"OR", "OR", "SHOOT1.WAV ", 0, "OOPS!", "Parola troppo corta!",
          "Attenzione: Devi inserire una parola in Italiano che deve essere composta almeno da 3 "
          "caratteri."},
+        {"ORA", "", "ROCHAN3.WAV COLLAPSE.WAV ", 0, "OOPS!", "Parola già inserita da te!",
+         "Hai già precedentemente inserito la parola: ORA mi dispiace, punteggio non assegnato."},
+        {"MARE", "", "ROCHAN3.WAV COLLAPSE.WAV ", 0, "OOPS!", "Parola già inserita dalla CPU!",
+         "Il computer ha già inserito la parola: MARE mi dispiace, punteggio non assegnato"},
+        {"CASA", "", "vinci.wav ", 320, "BENE!", "Complimenti, parola accettata!",
+         "Complimenti la parola è presente nel dizionario, verranno aggiunti:320 punti"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.word);
         sounds.played.clear();
-        messages.shown.clear();
+        messages = {};
         trace(c.word);
         submission.inviaParola();
-        EXPECT_EQ(played(), std::vector<std::string>{c.sound});
-        ASSERT_EQ(messages.shown.size(), 1u);
-        EXPECT_EQ(messages.shown[0], (Messaggio{"OOPS!", c.heading, c.text}));
-        EXPECT_EQ(state.parolaComposta, c.word);
+        std::string played;
+        for (const std::string& sound : sounds.played)
+            played += sound + " ";
+        EXPECT_EQ(played, c.sounds);
+        EXPECT_EQ(messages.shown, (std::vector<Messaggio>{{c.title, c.heading, c.text}}));
+        EXPECT_EQ(state.parolaComposta, c.after);
+        EXPECT_EQ(state.puntiGiocatore, c.points);
         EXPECT_FALSE(submission.busy());
     }
-}
-
-TEST_F(SubmissionTest, AWordAlreadyFoundByEitherSideIsClearedWithoutPoints) {
-    state.paroleGiocatore = {"casa"};
-    state.paroleCPU = {"mare", "casa"}; // found by both: the player's own message
-    trace("CASA");
+    EXPECT_EQ(messages.modal, std::vector<bool>{false});
+    view.busy.clear();
+    trace("ABCDEFGHIJKLM"); // judged and listed by its first ten letters
     submission.inviaParola();
-    EXPECT_EQ(played(), (std::vector<std::string>{"ROCHAN3.WAV", "COLLAPSE.WAV"}));
-    EXPECT_EQ(messages.shown.back(),
-              (Messaggio{"OOPS!", "Parola già inserita da te!",
-                         "Hai già precedentemente inserito la parola: CASA mi dispiace, "
-                         "punteggio non assegnato."}));
-    EXPECT_EQ(state.parolaComposta, "");
-    trace("MARE");
-    submission.inviaParola();
-    EXPECT_EQ(messages.shown.back(),
-              (Messaggio{"OOPS!", "Parola già inserita dalla CPU!",
-                         "Il computer ha già inserito la parola: MARE mi dispiace, punteggio "
-                         "non assegnato"}));
-    EXPECT_EQ(state.puntiGiocatore, 0);
-    EXPECT_EQ(state.paroleGiocatore.size(), 1u);
+    EXPECT_EQ(state.puntiGiocatore, 2320);
+    EXPECT_EQ(state.paroleGiocatore, (std::vector<std::string>{"ora", "casa", "abcdefghij"}));
+    EXPECT_EQ(view.busy, (std::vector<bool>{true, false}));
 }
 
 TEST_F(SubmissionTest, TheConfirmationsThreeAnswers) {
     const struct {
-        int answer;
-        const char* word;
-        const char* vocabulary;
-        int points;
+        int answer, points;
+        const char *word, *vocabulary;
         std::size_t listed;
-    } cases[] = {{3, "ZEBRA", "", 0, 0},
-                 {2, "ZEBRA", "ZEBRA\r\n", 0, 0},
-                 {1, "ZOCCA", "ZEBRA\r\nZOCCA\r\n", 500, 1}};
+    } cases[] = {{3, 0, "ZEBRA", "", 0},
+                 {2, 0, "ZEBRA", "ZEBRA\r\n", 0},
+                 {1, 500, "ZOCCA", "ZEBRA\r\nZOCCA\r\n", 1}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.answer);
         prompt.answer = c.answer;
@@ -138,7 +114,7 @@ TEST_F(SubmissionTest, TheConfirmationsThreeAnswers) {
         trace(c.word);
         submission.inviaParola();
         EXPECT_EQ(prompt.asked.back(), c.word);
-        EXPECT_EQ(played().front(), "perdi.wav");
+        EXPECT_EQ(sounds.played.front(), "perdi.wav");
         EXPECT_EQ(folder.read("ZarmPriv.1"), c.vocabulary);
         EXPECT_EQ(state.puntiGiocatore, c.points);
         EXPECT_EQ(state.paroleGiocatore.size(), c.listed);
@@ -154,10 +130,23 @@ TEST_F(SubmissionTest, TheConfirmationsThreeAnswers) {
     EXPECT_EQ(state.puntiGiocatore, 1000);
 }
 
+TEST_F(SubmissionTest, AWordThatCannotBeStoredIsReportedAndTheVocabularyKept) {
+    folder.write("ZarmPriv.1", "ZEBRA");
+    prompt.answer = 1;
+    trace("ZOCCA");
+    {
+        WriteLimit full(4); // the line end for the unfinished last line, and half the word
+        submission.inviaParola();
+    }
+    EXPECT_EQ(folder.read("ZarmPriv.1"), "ZEBRA");
+    EXPECT_EQ(alerts.shown, std::vector<std::string>{"Errore 0003: impossibile scrivere il file "
+                                                     "del vocabolario personale ZarmPriv.1, la "
+                                                     "parola non è stata salvata"});
+}
+
 TEST_F(SubmissionTest, ASecondSubmissionDuringTheScanDoesNothing) {
     int nested = 0;
     yieldAction = [&] {
-        yieldAction = nullptr;
         ++nested;
         submission.inviaParola(); // Enter pressed again while the first one scans
         EXPECT_TRUE(submission.busy());
@@ -170,14 +159,11 @@ TEST_F(SubmissionTest, ASecondSubmissionDuringTheScanDoesNothing) {
 }
 
 TEST_F(SubmissionTest, ASubmissionClosesTheFileOfAYieldingOpponentLookup) {
-    std::string opponentAnswer;
     yieldAction = [&] {
-        yieldAction = nullptr;
         trace("ORA");
         submission.inviaParola();
     };
-    opponentAnswer = dictionary.cercaParola("MARE");
-    EXPECT_EQ(opponentAnswer, "BUSY");
+    EXPECT_EQ(dictionary.cercaParola("MARE"), "BUSY");
     EXPECT_EQ(state.paroleGiocatore, std::vector<std::string>{"ora"});
 }
 

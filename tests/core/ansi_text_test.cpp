@@ -1,12 +1,12 @@
-// The Windows-1252 boundary: accented letters and the typographic block 0x80–0x9F both ways.
+// The Windows-1252 boundary: accented letters and the typographic block 0x80–0x9F both ways,
+// characters outside the code page, and the case changes.
 #include "core/ansi_text.h"
 
 #include <gtest/gtest.h>
 
-namespace griglione {
-namespace {
+using namespace griglione;
 
-TEST(AnsiText, ConvertsBothWays) {
+TEST(AnsiText, ConvertsBothWaysAndChangesCase) {
     const std::pair<std::string, std::string> cases[] = {
         {"città", "citt\xE0"}, {"è", "\xE8"},      {"€", "\x80"}, {"œ", "\x9C"},
         {"“x”", "\x93x\x94"},  {"plain", "plain"}, {"ÿ", "\xFF"}, {"\r\n", "\r\n"},
@@ -15,21 +15,9 @@ TEST(AnsiText, ConvertsBothWays) {
         EXPECT_EQ(toAnsi(utf8), ansi) << utf8;
         EXPECT_EQ(fromAnsi(ansi), utf8) << utf8;
     }
-}
-
-TEST(AnsiText, CharactersOutsideTheCodePageBecomeQuestionMarks) {
-    EXPECT_EQ(toAnsi("Ω∑"), "??");
-    EXPECT_EQ(toAnsi("a\xC3"), "a?"); // cut sequence
-    EXPECT_EQ(toAnsi("\xFF"
-                     "b"),
-              "?b"); // not UTF-8 at all
-}
-
-TEST(AnsiText, UpperCaseCoversAccentedLetters) {
+    // Outside the code page, bytes that are not UTF-8 at all, and a cut sequence.
+    EXPECT_EQ(toAnsi("Ω∑|\xFF|b|a\xC3"), "??|?|b|a?");
     EXPECT_EQ(upperAnsi("brivo \xE0\xE8\xF2\xF7\xFF\x9C"), "BRIVO \xC0\xC8\xD2\xF7\x9F\x8C");
     EXPECT_EQ(lowerAscii("CASA1"), "casa1");
     EXPECT_EQ(upperAscii("casa\xE0"), "CASA\xE0");
 }
-
-} // namespace
-} // namespace griglione

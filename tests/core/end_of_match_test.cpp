@@ -7,7 +7,8 @@
 #include <string>
 #include <vector>
 
-namespace griglione {
+using namespace griglione;
+
 namespace {
 
 // The level items checked: Junior, Principiante, Medio, Esperto.
@@ -63,4 +64,3 @@ TEST(EndOfMatchTest, ARunOfMatchesShowsEveryTextOfTheWindow) {
 }
 
 } // namespace
-} // namespace griglione

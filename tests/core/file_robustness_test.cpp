@@ -1,9 +1,8 @@
 // Files that are not what they should be: a folder, a huge file, a write-protected file or folder,
-// a disk that fills up part-way. Nothing throws, nothing half-written is left, and a failed
-// write of the personal vocabulary is reported.
-#include "board/word_submission.h"
+// a disk that fills up part-way. Nothing throws and nothing half-written is left.
 #include "dictionary/dictionary_format.h"
 #include "dictionary/dictionary_rebuild.h"
+#include "dictionary/open_file_table.h"
 #include "dictionary/personal_vocabulary.h"
 #include "dictionary/rules_text.h"
 #include "records/record_opening.h"
@@ -11,38 +10,40 @@
 
 #include <gtest/gtest.h>
 
-namespace griglione {
-namespace {
+#include <map>
 
-using namespace testing;
+using namespace griglione;
+
+using namespace griglione::testing;
 namespace fs = std::filesystem;
 
 TEST(FileRobustness, EveryReaderTakesAFolderOrAHugeFileForAMissingOne) {
     for (const bool huge : {false, true}) {
         SCOPED_TRACE(huge ? "huge" : "folder");
         TempFolder folder;
+        const fs::path f = folder.path();
         for (const char* name : {"ZARMOLO.INI", "ZarmPriv.1", "REGPAROL.TXT", "SLESSICO.1"}) {
-            if (huge) {
-                folder.write(name, "");
-                fs::resize_file(folder.path() / name, kLargestReadableFile + 1);
-            } else {
-                fs::create_directory(folder.path() / name);
-            }
+            if (huge) folder.write(name, ""), fs::resize_file(f / name, kLargestReadableFile + 1);
+            if (!huge) fs::create_directory(f / name);
         }
-        EXPECT_FALSE(readWholeFile(folder.path() / "ZARMOLO.INI"));
-        EXPECT_FALSE(readRulesText(folder.path(), "\r\n"));
-        EXPECT_FALSE(personalVocabularyHas(folder.path() / "ZarmPriv.1", "CANE"));
-        OpenFileTable files;
-        EXPECT_EQ(files.open(FileSlot::Opponent, folder.path() / "SLESSICO.1"), huge);
-        if (!huge) {
-            EXPECT_FALSE(appendToPersonalVocabulary(folder.path() / "ZarmPriv.1", "CANE"));
-        }
+        EXPECT_FALSE(readWholeFile(f / "ZARMOLO.INI"));
+        EXPECT_FALSE(readRulesText(f, "\r\n"));
+        EXPECT_FALSE(personalVocabularyHas(f / "ZarmPriv.1", "CANE"));
+        EXPECT_EQ(OpenFileTable().open(FileSlot::Opponent, f / "SLESSICO.1"), huge);
+        EXPECT_TRUE(huge || !appendToPersonalVocabulary(f / "ZarmPriv.1", "CANE"));
     }
 }
 
-// Writes that must fail leave the old file as it was, and no temporary file behind.
-TEST(FileRobustness, AFailedRewriteOrAppendLeavesTheOldFileByteForByte) {
-    const std::string old = "Livello=500\r\nSuono=SI\r\n";
+// Writes that must fail leave the old file as it was and no temporary file behind: the settings
+// rewrite and append, the records table and the rebuilt dictionary.
+TEST(FileRobustness, AFailedWriteLeavesTheOldFilesByteForByte) {
+    WordLists words;
+    words[0] = {"ERA", "ORA"};
+    const std::map<std::string, std::string> old = {
+        {"ZARMOLO.INI", "Livello=500\r\nSuono=SI\r\n"},
+        {"zarMolo.HIS", "ANNA, 2000 \r\n"},
+        {"SLESSICO.1", buildDictionaryFile("test", words)}};
+    words[0].push_back("UVA");
     const struct {
         const char* what;
         fs::perms filePerms;
@@ -55,43 +56,24 @@ TEST(FileRobustness, AFailedRewriteOrAppendLeavesTheOldFileByteForByte) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
         TempFolder folder;
-        const fs::path file = folder.path() / "ZARMOLO.INI";
-        folder.write("ZARMOLO.INI", old);
-        fs::permissions(file, c.filePerms);
-        std::optional<WriteLimit> full;
-        if (c.limit) full.emplace(*c.limit);
-        EXPECT_FALSE(writeFileAtomically(file, "Livello=100\r\n"));
-        EXPECT_FALSE(appendToFile(file, "Tempo=60\r\n"));
-        full.reset();
-        fs::permissions(file, fs::perms::owner_all);
-        EXPECT_EQ(folder.read("ZARMOLO.INI"), old);
-        EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 1);
-    }
-}
-
-// The records table and the rebuilt dictionary go through the same writes: a disk that fills
-// part-way leaves the old file whole and nothing beside it.
-TEST(FileRobustness, AFailedRecordOrDictionaryRewriteLeavesTheOldFile) {
-    WordLists words;
-    words[0] = {"ERA", "ORA"};
-    const std::string oldDictionary = buildDictionaryFile("test", words);
-    for (const std::size_t limit : {std::size_t{0}, std::size_t{300}}) {
-        SCOPED_TRACE(limit);
-        TempFolder folder;
-        folder.write("zarMolo.HIS", "ANNA, 2000 \r\n");
-        folder.write("SLESSICO.1", oldDictionary);
+        const fs::path f = folder.path();
+        for (const auto& [name, bytes] : old)
+            folder.write(name, bytes), fs::permissions(f / name, c.filePerms);
         GameState state;
         state.inserisciRecord = true;
         state.puntiGiocatore = 1500;
-        {
-            WriteLimit full(limit);
-            riempiTabella(state, "BRIVO", folder.path() / "zarMolo.HIS");
-            words[0].push_back("UVA");
-            EXPECT_FALSE(rebuildDictionary(folder.path(), 1, "test", words));
+        std::optional<WriteLimit> full;
+        if (c.limit) full.emplace(*c.limit);
+        EXPECT_FALSE(writeFileAtomically(f / "ZARMOLO.INI", "Livello=100\r\n"));
+        EXPECT_FALSE(appendToFile(f / "ZARMOLO.INI", "Tempo=60\r\n"));
+        riempiTabella(state, "BRIVO", f / "zarMolo.HIS");
+        EXPECT_TRUE(!c.limit || !rebuildDictionary(f, 1, "test", words)); // on a full disk only
+        full.reset();
+        for (const auto& [name, bytes] : old) {
+            fs::permissions(f / name, fs::perms::owner_all);
+            EXPECT_EQ(folder.read(name), bytes) << name;
         }
-        EXPECT_EQ(folder.read("zarMolo.HIS"), "ANNA, 2000 \r\n");
-        EXPECT_EQ(folder.read("SLESSICO.1"), oldDictionary);
-        EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 2);
+        EXPECT_EQ(std::distance(fs::directory_iterator(f), {}), 3);
     }
 }
 
@@ -110,34 +92,3 @@ TEST(FileRobustness, AFolderThatRefusesNewFilesStillLetsAWritableFileBeRewritten
         EXPECT_EQ(folder.read("ZARMOLO.INI"), "new");
     }
 }
-
-struct AcceptEveryWord : UnknownWordPrompt {
-    int confermaParola(const std::string&) override { return 1; }
-};
-
-TEST(FileRobustness, AWordThatCannotBeStoredIsReportedAndTheVocabularyKept) {
-    BoardParts<> parts;
-    TempFolder folder;
-    folder.write("SLESSICO.1", std::string(kMinimumFileSize, '\0'));
-    folder.write("ZarmPriv.1", "ZEBRA");
-    OpenFileTable files;
-    FakeAlerts alerts;
-    Dictionary dictionary(
-        parts.state, files, alerts, [] {}, folder.path());
-    dictionary.prendidiz();
-    AcceptEveryWord prompt;
-    WordSubmission submission(parts.state, parts.board, dictionary, files, parts.sounds,
-                              parts.messages, parts.view, prompt);
-    parts.state.parolaComposta = "ZOCCA";
-    {
-        WriteLimit full(4); // the line end for the unfinished last line, and half the word
-        submission.inviaParola();
-    }
-    EXPECT_EQ(folder.read("ZarmPriv.1"), "ZEBRA");
-    EXPECT_EQ(alerts.shown, std::vector<std::string>{"Errore 0003: impossibile scrivere il file "
-                                                     "del vocabolario personale ZarmPriv.1, la "
-                                                     "parola non è stata salvata"});
-}
-
-} // namespace
-} // namespace griglione

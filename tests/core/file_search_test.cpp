@@ -18,9 +18,8 @@ protected:
              player = tree.path() / "home/griglione";
 
     void SetUp() override {
-        fs::create_directories(program);
-        fs::create_directories(player);
-        fs::create_directories(data);
+        for (const fs::path& folder : {program, player, data})
+            fs::create_directories(folder);
         setFileSearchOrder({player, data});
     }
     void TearDown() override { setFileSearchOrder({}); }
@@ -44,8 +43,8 @@ TEST_F(FileSearchTest, ChoosesTheFolderFromWritabilityAndTheDataBesideTheProgram
         if (c.dataBeside) fs::create_directories(data);
         const auto order =
             chooseFileSearchOrder(program, c.writable, "../share/games/griglione", player);
-        EXPECT_EQ(order.playerFolder, c.working) << c.writable << c.dataBeside;
-        EXPECT_EQ(order.dataFolder, c.shipped) << c.writable << c.dataBeside;
+        EXPECT_EQ(std::pair(order.playerFolder, order.dataFolder), std::pair(c.working, c.shipped))
+            << c.writable << c.dataBeside;
     }
 }
 

@@ -3,29 +3,23 @@
 
 #include <gtest/gtest.h>
 
-namespace griglione {
-namespace {
+#include <tuple>
+
+using namespace griglione;
 
 TEST(LetterFlash, StepsThroughLettersAndColours) {
-    LetterFlash flash;
-    const struct {
-        int step, letter, foreground, background;
-    } expected[] = {
+    const std::tuple<int, int, int, int> expected[] = {
         {1, 0, 1, 14},  {2, 1, 2, 13},  {5, 4, 5, 10},  {6, 0, 6, 9},
         {15, 4, 15, 0}, {16, 0, 1, 14}, {20, 4, 5, 10},
     };
+    LetterFlash flash;
     int step = 0;
-    for (const auto& e : expected) {
+    for (const auto& [at, letter, foreground, background] : expected) {
         FlashStep s{};
-        while (step < e.step) {
+        for (; step < at; ++step)
             s = flash.step();
-            ++step;
-        }
-        EXPECT_EQ(s.letter, e.letter) << e.step;
-        EXPECT_EQ(s.foreground, e.foreground) << e.step;
-        EXPECT_EQ(s.background, e.background) << e.step;
+        EXPECT_EQ(std::tie(s.letter, s.foreground, s.background),
+                  std::tie(letter, foreground, background))
+            << at;
     }
 }
-
-} // namespace
-} // namespace griglione

@@ -4,29 +4,22 @@
 
 #include <gtest/gtest.h>
 
-namespace griglione {
-namespace {
+using namespace griglione;
 
-TEST(MatchClock, ASixtySecondMatchEndsOnItsSixtyFirstTick) {
+// The bar grows in proportion and halves to even.
+TEST(MatchClock, ASixtySecondMatchEndsOnItsSixtyFirstTickWithTheBarFull) {
     GameState state;
     state.tempoPartita = 60;
     for (int tick = 1; tick <= 60; ++tick) {
         ASSERT_FALSE(countSecond(state)) << tick;
         EXPECT_EQ(secondsLabel(state.secondiTrascorsi), std::to_string(tick) + "s");
     }
-    EXPECT_EQ(timeBarWidth(107, 60, 60), 107);
     EXPECT_TRUE(countSecond(state));
-}
-
-TEST(MatchClock, BarGrowsInProportionHalvesToEven) {
-    const struct {
-        int inner, tempo, seconds, width;
-    } cases[] = {
-        {100, 60, 3, 5}, {105, 60, 2, 4}, {105, 60, 6, 10}, {100, 300, 4, 1}, {100, 0, 5, 0},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(timeBarWidth(c.inner, c.tempo, c.seconds), c.width)
-            << c.inner << "/" << c.tempo << "*" << c.seconds;
+    const std::array<int, 4> bars[] = {{107, 60, 60, 107}, {100, 60, 3, 5},  {105, 60, 2, 4},
+                                       {105, 60, 6, 10},   {100, 300, 4, 1}, {100, 0, 5, 0}};
+    for (const auto& [inner, tempo, seconds, width] : bars)
+        EXPECT_EQ(timeBarWidth(inner, tempo, seconds), width)
+            << inner << "/" << tempo << "*" << seconds;
 }
 
 TEST(MatchClock, StartMessageNamesLengthLanguageAndTheLastCheckedLevelInItsOrder) {
@@ -36,22 +29,15 @@ TEST(MatchClock, StartMessageNamesLengthLanguageAndTheLastCheckedLevelInItsOrder
     const struct {
         std::array<bool, 4> checks;
         const char* level;
-    } cases[] = {
-        {{true, false, false, false}, "Junior (Birillo)"},
-        {{false, false, false, false}, ""},
-        {{false, false, true, true}, "Medio (Memo)"},
-        {{true, true, false, false}, "Principiante (Tapo)"},
-    };
-    for (const auto& c : cases) {
-        const Messaggio m = startMessage(state, c.checks);
-        EXPECT_EQ(m.titolo, "START");
-        EXPECT_EQ(m.intestazione, "Inizio partita");
-        EXPECT_EQ(m.testo, std::string("Si inizia una nuova partita di 120 secondi.\r\n"
-                                       "Il dizionario usato è : Italiano\r\n"
-                                       "Il livello dell'avversario è : ") +
-                               c.level + "\r\nCliccare il pulsante <OK> per giocare.");
-    }
+    } cases[] = {{{1, 0, 0, 0}, "Junior (Birillo)"},
+                 {{0, 0, 0, 0}, ""},
+                 {{0, 0, 1, 1}, "Medio (Memo)"},
+                 {{1, 1, 0, 0}, "Principiante (Tapo)"}};
+    for (const auto& c : cases)
+        EXPECT_EQ(startMessage(state, c.checks),
+                  (Messaggio{"START", "Inizio partita",
+                             std::string("Si inizia una nuova partita di 120 secondi.\r\n"
+                                         "Il dizionario usato è : Italiano\r\n"
+                                         "Il livello dell'avversario è : ") +
+                                 c.level + "\r\nCliccare il pulsante <OK> per giocare."}));
 }
-
-} // namespace
-} // namespace griglione

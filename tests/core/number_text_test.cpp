@@ -3,8 +3,9 @@
 
 #include <gtest/gtest.h>
 
-namespace griglione {
-namespace {
+#include <tuple>
+
+using namespace griglione;
 
 TEST(NumberText, RoundsHalvesToEven) {
     const std::pair<double, int> cases[] = {{0.5, 0},   {1.5, 2},    {2.5, 2},    {-0.5, 0},
@@ -26,16 +27,10 @@ TEST(NumberText, ReadsTheLeadingNumber) {
 }
 
 TEST(NumberText, GroupsThousandsWithThePoint) {
-    const struct {
-        std::int64_t n;
-        int minDigits;
-        const char* text;
-    } cases[] = {{1240, 5, "01.240"},       {0, 5, "00.000"},    {0, 0, ""},
-                 {999, 0, "999"},           {1000, 0, "1.000"},  {147805, 0, "147.805"},
-                 {1234567, 0, "1.234.567"}, {-1240, 0, "-1.240"}};
-    for (const auto& c : cases)
-        EXPECT_EQ(groupedNumber(c.n, c.minDigits), c.text) << c.n << " " << c.minDigits;
+    const std::tuple<std::int64_t, int, const char*> cases[] = {
+        {1240, 5, "01.240"},  {0, 5, "00.000"},         {0, 0, ""},
+        {999, 0, "999"},      {1000, 0, "1.000"},       {147805, 0, "147.805"},
+        {-1240, 0, "-1.240"}, {1234567, 0, "1.234.567"}};
+    for (const auto& [n, minDigits, text] : cases)
+        EXPECT_EQ(groupedNumber(n, minDigits), text) << n << " " << minDigits;
 }
-
-} // namespace
-} // namespace griglione

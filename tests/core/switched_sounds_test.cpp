@@ -4,11 +4,10 @@
 
 #include <gtest/gtest.h>
 
-namespace griglione {
-namespace {
+using namespace griglione;
 
 TEST(SwitchedSounds, EffectsFollowTheSwitchFromTheNextCallOn) {
-    testing::FakeSounds player;
+    griglione::testing::FakeSounds player;
     bool on = false;
     SwitchedSounds sounds(player, [&on] { return on; });
     sounds.suona("vinci.wav");
@@ -18,6 +17,3 @@ TEST(SwitchedSounds, EffectsFollowTheSwitchFromTheNextCallOn) {
     sounds.suona("vinci.wav");
     EXPECT_EQ(player.played, (std::vector<std::string>{"beep", "vinci.wav"}));
 }
-
-} // namespace
-} // namespace griglione

@@ -8,25 +8,23 @@
 #include <gtest/gtest.h>
 
 #include <deque>
-#include <functional>
 #include <set>
 #include <stdexcept>
 
 namespace griglione {
 namespace {
 
-// Thrown when a walk asks for more numbers than scripted: it freezes the walk where the script
-// ends and catches a walk that draws more than it should.
-struct RanOut : std::runtime_error {
-    RanOut() : std::runtime_error("scripted random numbers ran out") {}
-};
+using Words = std::vector<std::string>;
 
+// Throws RanOut when a walk asks for more numbers than scripted: it freezes the walk where the
+// script ends and catches a walk that draws more than it should.
+using RanOut = std::length_error;
 struct QueuedRandom : Random {
     std::deque<double> numbers;
     std::vector<double> seeds;
     void reseed(double seconds) override { seeds.push_back(seconds); }
     double next() override {
-        if (numbers.empty()) throw RanOut();
+        if (numbers.empty()) throw RanOut("script ran out");
         const double r = numbers.front();
         numbers.pop_front();
         return r;
@@ -35,12 +33,8 @@ struct QueuedRandom : Random {
 };
 
 // The number that draws die n first, and the one that draws direction d.
-double die(int n) {
-    return (n + 0.5) / 25;
-}
-double dir(int d) {
-    return (d - 0.5) / 8;
-}
+constexpr auto die = [](int n) { return (n + 0.5) / 25; };
+constexpr auto dir = [](int d) { return (d - 0.5) / 8; };
 enum { Left = 1, Right, Up, Down, DownLeft, DownRight, UpLeft, UpRight };
 
 class OpponentWalkTest : public ::testing::Test {
@@ -53,20 +47,19 @@ protected:
         for (int n = 0; n < kCells; ++n)
             state.immagineCella[n] = std::string("zarMmg") + letters[n] + "2.gif";
     }
+    // Answers queued in `answers` come before the word set is asked.
     std::string lookup(const std::string& word) {
         lookups.push_back(word);
-        if (lookupAction) lookupAction();
-        if (!answers.empty()) {
-            std::string answer = answers.front();
-            answers.pop_front();
-            return answer;
-        }
-        return words.count(word) ? "SI" : "NO";
+        if (nestTicks) walk.tick();
+        if (answers.empty()) return words.count(word) ? "SI" : "NO";
+        const std::string answer = answers.front();
+        answers.pop_front();
+        return answer;
     }
     // MAREA along the top row, then ZYXWV right to left along the second: ten letters.
     void scriptMareaWalk() {
         setBoard("MAREAVWXYZKLNOPQSTUBCDFGH");
-        random.add(die(0));
+        random.numbers = {die(0)};
         for (int d : {Right, Right, Right, Right, Down, Left, Left, Left, Left})
             random.add(dir(d));
     }
@@ -76,19 +69,19 @@ protected:
     testing::FixedClock clock;
     testing::FakeView view;
     std::set<std::string> words{"MARE", "MAREA"};
-    std::deque<std::string> answers; // given before the word set is asked
-    std::vector<std::string> lookups;
-    std::function<void()> lookupAction;
+    std::deque<std::string> answers;
+    Words lookups;
+    bool nestTicks = false; // a tick from inside every lookup and yield
     std::vector<std::int32_t> yieldScores;
-    std::function<void()> yieldAction;
+    void yielded() {
+        yieldScores.push_back(state.puntiCPU);
+        if (nestTicks) walk.tick();
+    }
     OpponentWalk walk{state,
                       random,
                       clock,
                       [this](const std::string& w) { return lookup(w); },
-                      [this] {
-                          yieldScores.push_back(state.puntiCPU);
-                          if (yieldAction) yieldAction();
-                      },
+                      [this] { yielded(); },
                       view};
 };
 
@@ -103,14 +96,12 @@ TEST_F(OpponentWalkTest, EachDirectionStepsToItsNeighbourAndNeverWrapsOrLeavesTh
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(std::to_string(c.start) + " direction " + std::to_string(c.direction));
-        random.add(die(c.start));
-        random.add(dir(c.direction));
+        random.numbers = {die(c.start), dir(c.direction)};
         EXPECT_THROW(walk.tick(), RanOut);
         EXPECT_EQ(walk.cellaCPU(), c.reached < 0 ? c.start : c.reached);
         std::string word(1, char('A' + c.start));
         if (c.reached >= 0) word += char('A' + c.reached);
         EXPECT_EQ(walk.parolaCPU(), word);
-        EXPECT_FALSE(walk.running());
     }
 }
 
@@ -130,7 +121,7 @@ TEST_F(OpponentWalkTest, ADrawPastTheTwentySixthForOneLetterEndsTheTickWhenItLan
         SCOPED_TRACE(c.name);
         lookups.clear();
         answers = {"BUSY"};
-        random.add(die(0));
+        random.numbers = {die(0)};
         random.add(dir(Up), c.offBoardBeforeB);
         random.add(dir(Right));
         random.add(dir(Left), c.usedDraws);
@@ -138,44 +129,44 @@ TEST_F(OpponentWalkTest, ADrawPastTheTwentySixthForOneLetterEndsTheTickWhenItLan
         random.add(dir(Down));
         walk.tick();
         EXPECT_TRUE(random.numbers.empty());
-        EXPECT_EQ(lookups,
-                  c.accepted ? std::vector<std::string>{"ABG"} : std::vector<std::string>{});
+        EXPECT_EQ(lookups, c.accepted ? Words{"ABG"} : Words{});
     }
 }
 
-TEST_F(OpponentWalkTest, MareThenMareaScoreInOneTickAndTheWalkStopsAtTenLetters) {
-    scriptMareaWalk();
-    walk.tick(); // an eleventh letter would ask for a number the script does not have
-    EXPECT_EQ(random.seeds, std::vector<double>{1234.5});
-    EXPECT_EQ(lookups, (std::vector<std::string>{"MAR", "MARE", "MAREA", "MAREAZ", "MAREAZY",
-                                                 "MAREAZYX", "MAREAZYXW", "MAREAZYXWV"}));
-    EXPECT_EQ(state.paroleCPU, (std::vector<std::string>{"mare", "marea"}));
-    EXPECT_EQ(state.puntiCPU, 820);
-    EXPECT_EQ(yieldScores, (std::vector<std::int32_t>{0, 320})); // the points come after the yield
-    EXPECT_EQ(state.ricercheFallite, 6);
-    EXPECT_EQ(state.ultimoTentativoCPU, " 6 MAREAZYXWV");
-}
-
-TEST_F(OpponentWalkTest, AWordEitherPlayerHoldsEndsTheWholeTick) {
+// The first walk scores MARE then MAREA in one tick and stops at ten letters (an eleventh would
+// ask for a number the script does not have); a word either player holds ends the whole tick.
+// Ticks called from inside the lookup and the yield return at once: no re-seed, no draw.
+TEST_F(OpponentWalkTest, MareThenMareaScoreInOneTickUnlessEitherPlayerHoldsAWord) {
     const struct {
-        std::vector<std::string> human, computer, lookups, computerAfter;
+        Words human, computer;
+        std::size_t lookedUp; // the first prefixes of MAREAZYXWV from three letters on
+        Words computerAfter;
         std::int32_t points;
     } cases[] = {
-        {{"mare"}, {}, {"MAR", "MARE"}, {}, 0},
-        {{}, {"mare"}, {"MAR", "MARE"}, {"mare"}, 0},
-        {{"marea"}, {}, {"MAR", "MARE", "MAREA"}, {"mare"}, 320},
+        {{}, {}, 8, {"mare", "marea"}, 820},
+        {{"mare"}, {}, 2, {}, 0},
+        {{}, {"mare"}, 2, {"mare"}, 0},
+        {{"marea"}, {}, 3, {"mare"}, 320},
     };
+    nestTicks = true;
     for (const auto& c : cases) {
         state.paroleGiocatore = c.human;
         state.paroleCPU = c.computer;
         state.puntiCPU = 0;
         lookups.clear();
-        random.numbers.clear();
         scriptMareaWalk();
         walk.tick();
-        EXPECT_EQ(lookups, c.lookups);
+        Words prefixes;
+        for (std::size_t n = 3; n < 3 + c.lookedUp; ++n)
+            prefixes.push_back(std::string("MAREAZYXWV", n));
+        EXPECT_EQ(lookups, prefixes);
         EXPECT_EQ(state.paroleCPU, c.computerAfter);
         EXPECT_EQ(state.puntiCPU, c.points);
+        if (&c != cases) continue;
+        EXPECT_EQ(random.seeds, std::vector<double>{1234.5});
+        EXPECT_EQ(yieldScores, (std::vector<std::int32_t>{0, 320})); // points come after the yield
+        EXPECT_EQ(state.ricercheFallite, 6);
+        EXPECT_EQ(state.ultimoTentativoCPU, " 6 MAREAZYXWV");
     }
 }
 
@@ -192,8 +183,7 @@ TEST_F(OpponentWalkTest, EveryAnswerButSiAndBusyIsCountedAsUnsuccessful) {
         state.ultimoTentativoCPU = "";
         lookups.clear();
         answers = {c.answer, "BUSY"};
-        random.numbers.clear();
-        random.add(die(0));
+        random.numbers = {die(0)};
         random.add(dir(Right), 3);
         walk.tick();
         const bool counted = *c.label != '\0';
@@ -202,21 +192,6 @@ TEST_F(OpponentWalkTest, EveryAnswerButSiAndBusyIsCountedAsUnsuccessful) {
         EXPECT_EQ(state.ultimoTentativoCPU, c.label);
         EXPECT_TRUE(state.paroleCPU.empty());
     }
-}
-
-TEST_F(OpponentWalkTest, ATickCalledFromInsideATickReturnsAtOnce) {
-    int inner = 0;
-    yieldAction = [&] {
-        ++inner;
-        walk.tick();
-    };
-    lookupAction = [&] { walk.tick(); };
-    scriptMareaWalk();
-    walk.tick();
-    EXPECT_EQ(inner, 2);
-    EXPECT_EQ(random.seeds.size(), 1u); // the nested calls neither re-seeded nor drew
-    EXPECT_EQ(state.puntiCPU, 820);
-    EXPECT_EQ(lookups.size(), 8u);
 }
 
 } // namespace
