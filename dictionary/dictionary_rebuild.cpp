@@ -60,6 +60,8 @@ bool rebuildDictionary(const std::filesystem::path& folder, int numDizionario,
     const auto target =
         writableFileName(resolveFileName(folder, dictionaryFileName(numDizionario)));
     const auto fresh = writableFileName(resolveFileName(folder, kNewDictionaryFileName));
+    // A write-protected dictionary stays as it is, although the rename could replace it.
+    if (!mayWrite(target)) return false;
     std::error_code error;
     // A leftover of an interrupted rebuild goes first; anything else in its way stops the work.
     if (std::filesystem::exists(std::filesystem::symlink_status(fresh, error)) &&
