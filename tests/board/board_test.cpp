@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 
 #include <functional>
+#include <tuple>
 #include <utility>
 
 namespace griglione {
@@ -21,26 +22,24 @@ struct DealTest : ::testing::Test, BoardParts<> {};
 TEST_F(DealTest, EachCellDrawsItsFaceThenItsLetterFromItsLanguagesPool) {
     // Every cell draws 0.3 (face 2) then 0.999 (the pool's last letter); the last of the three
     // passes puts vowels on the even cells.
-    const struct {
-        int language, languageAfter;
-        const char *even, *odd;
-    } cases[] = {{1, 1, "zarMmgU2.gif", "zarMmgZ2.gif"},
-                 {2, 2, "zarMmgY2.gif", "zarMmgY2.gif"},
-                 {3, 3, "zarMmgY2.gif", "zarMmgY2.gif"},
-                 {0, 1, "zarMmgU2.gif", "zarMmgZ2.gif"}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.language);
+    const std::tuple<int, int, const char*, const char*> cases[] = {
+        {1, 1, "zarMmgU2.gif", "zarMmgZ2.gif"},
+        {2, 2, "zarMmgY2.gif", "zarMmgY2.gif"},
+        {3, 3, "zarMmgY2.gif", "zarMmgY2.gif"},
+        {0, 1, "zarMmgU2.gif", "zarMmgZ2.gif"}};
+    for (const auto& [language, languageAfter, even, odd] : cases) {
+        SCOPED_TRACE(language);
         ScriptedRandom scripted;
         for (int draw = 0; draw < 75; ++draw)
             scripted.numbers.insert(scripted.numbers.end(), {0.3, 0.999});
         GameState fresh;
-        fresh.numDizionario = static_cast<std::int16_t>(c.language);
+        fresh.numDizionario = static_cast<std::int16_t>(language);
         Dealer(scripted, clock).deal(fresh, true);
         EXPECT_EQ(scripted.reseeds, 75);
         EXPECT_TRUE(scripted.numbers.empty());
-        EXPECT_EQ(fresh.numDizionario, c.languageAfter);
+        EXPECT_EQ(fresh.numDizionario, languageAfter);
         for (int n = 0; n < kCells; ++n)
-            EXPECT_EQ(fresh.immagineCella[n], n % 2 == 0 ? c.even : c.odd) << n;
+            EXPECT_EQ(fresh.immagineCella[n], n % 2 == 0 ? even : odd) << n;
     }
 }
 
@@ -237,25 +236,22 @@ TEST_F(SubmissionTest, EachOutcomeHasItsMessageSoundsAndPoints) {
 }
 
 TEST_F(SubmissionTest, TheConfirmationsThreeAnswers) {
-    const struct {
-        int answer, points;
-        const char *word, *vocabulary;
-        std::size_t listed;
-    } cases[] = {{3, 0, "ZEBRA", "", 0},
-                 {2, 0, "ZEBRA", "ZEBRA\r\n", 0},
-                 {1, 500, "ZOCCA", "ZEBRA\r\nZOCCA\r\n", 1}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.answer);
-        prompt.answer = c.answer;
+    const std::tuple<int, int, const char*, const char*, std::size_t> cases[] = {
+        {3, 0, "ZEBRA", "", 0},
+        {2, 0, "ZEBRA", "ZEBRA\r\n", 0},
+        {1, 500, "ZOCCA", "ZEBRA\r\nZOCCA\r\n", 1}};
+    for (const auto& [answer, points, word, vocabulary, listed] : cases) {
+        SCOPED_TRACE(answer);
+        prompt.answer = answer;
         sounds.played.clear();
-        trace(c.word);
+        trace(word);
         submission.inviaParola();
-        EXPECT_EQ(prompt.asked.back(), c.word);
+        EXPECT_EQ(prompt.asked.back(), word);
         EXPECT_EQ(sounds.played.front(), "perdi.wav");
-        EXPECT_EQ(folder.read("ZarmPriv.1"), c.vocabulary);
-        EXPECT_EQ(state.puntiGiocatore, c.points);
-        EXPECT_EQ(state.paroleGiocatore.size(), c.listed);
-        EXPECT_EQ(state.rispostaConferma, c.answer);
+        EXPECT_EQ(folder.read("ZarmPriv.1"), vocabulary);
+        EXPECT_EQ(state.puntiGiocatore, points);
+        EXPECT_EQ(state.paroleGiocatore.size(), listed);
+        EXPECT_EQ(state.rispostaConferma, answer);
         EXPECT_EQ(state.parolaComposta, "");
     }
     // Stored with answer 2, the word is now known and scores without a question.
