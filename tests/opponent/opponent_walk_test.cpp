@@ -10,6 +10,7 @@
 #include <deque>
 #include <set>
 #include <stdexcept>
+#include <tuple>
 
 namespace griglione {
 namespace {
@@ -86,50 +87,45 @@ protected:
 };
 
 TEST_F(OpponentWalkTest, EachDirectionStepsToItsNeighbourAndNeverWrapsOrLeavesTheBoard) {
-    const struct {
-        int start, direction, reached; // -1: rejected, the walk draws again
-    } cases[] = {
+    // start, direction, reached (-1: rejected, the walk draws again)
+    const std::tuple<int, int, int> cases[] = {
         {12, Left, 11},     {12, Right, 13},     {12, Up, 7},        {12, Down, 17},
         {12, DownLeft, 16}, {12, DownRight, 18}, {12, UpLeft, 6},    {12, UpRight, 8},
         {4, Right, -1},     {5, Left, -1},       {9, DownRight, -1}, {10, DownLeft, -1},
         {5, UpRight, 1},    {0, Up, -1},         {24, Down, -1},     {4, UpRight, -1},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(std::to_string(c.start) + " direction " + std::to_string(c.direction));
-        random.numbers = {die(c.start), dir(c.direction)};
+    for (const auto& [start, direction, reached] : cases) {
+        SCOPED_TRACE(std::to_string(start) + " direction " + std::to_string(direction));
+        random.numbers = {die(start), dir(direction)};
         EXPECT_THROW(walk.tick(), RanOut);
-        EXPECT_EQ(walk.cellaCPU(), c.reached < 0 ? c.start : c.reached);
-        std::string word(1, char('A' + c.start));
-        if (c.reached >= 0) word += char('A' + c.reached);
+        EXPECT_EQ(walk.cellaCPU(), reached < 0 ? start : reached);
+        std::string word(1, char('A' + start));
+        if (reached >= 0) word += char('A' + reached);
         EXPECT_EQ(walk.parolaCPU(), word);
     }
 }
 
 TEST_F(OpponentWalkTest, ADrawPastTheTwentySixthForOneLetterEndsTheTickWhenItLandsOnANeighbour) {
     // A → B; for the third letter left is the used A, up is off the board, down the free G.
-    const struct {
-        const char* name;
-        int offBoardBeforeB, usedDraws, offBoardDraws;
-        bool accepted;
-    } cases[] = {
+    const std::tuple<const char*, int, int, int, bool> cases[] = {
         {"25 on a used die, then the free one", 0, 25, 0, true},
         {"26 on a used die, then the free one", 0, 26, 0, false},
         {"27 off the board count too but end nothing", 0, 0, 27, false},
         {"the count restarts for every letter", 20, 25, 0, true},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
+    for (const auto& [name, offBoardBeforeB, usedDraws, offBoardDraws, accepted] : cases) {
+        SCOPED_TRACE(name);
         lookups.clear();
         answers = {"BUSY"};
         random.numbers = {die(0)};
-        random.add(dir(Up), c.offBoardBeforeB);
+        random.add(dir(Up), offBoardBeforeB);
         random.add(dir(Right));
-        random.add(dir(Left), c.usedDraws);
-        random.add(dir(Up), c.offBoardDraws);
+        random.add(dir(Left), usedDraws);
+        random.add(dir(Up), offBoardDraws);
         random.add(dir(Down));
         walk.tick();
         EXPECT_TRUE(random.numbers.empty());
-        EXPECT_EQ(lookups, c.accepted ? Words{"ABG"} : Words{});
+        EXPECT_EQ(lookups, accepted ? Words{"ABG"} : Words{});
     }
 }
 
@@ -137,12 +133,9 @@ TEST_F(OpponentWalkTest, ADrawPastTheTwentySixthForOneLetterEndsTheTickWhenItLan
 // ask for a number the script does not have); a word either player holds ends the whole tick.
 // Ticks called from inside the lookup and the yield return at once: no re-seed, no draw.
 TEST_F(OpponentWalkTest, MareThenMareaScoreInOneTickUnlessEitherPlayerHoldsAWord) {
-    const struct {
-        Words human, computer;
-        std::size_t lookedUp; // the first prefixes of MAREAZYXWV from three letters on
-        Words computerAfter;
-        std::int32_t points;
-    } cases[] = {
+    // human, computer, lookedUp (the first prefixes of MAREAZYXWV from three letters on), the
+    // computer's words after, its points.
+    const std::tuple<Words, Words, std::size_t, Words, std::int32_t> cases[] = {
         {{}, {}, 8, {"mare", "marea"}, 820},
         {{"mare"}, {}, 2, {}, 0},
         {{}, {"mare"}, 2, {"mare"}, 0},
@@ -150,18 +143,19 @@ TEST_F(OpponentWalkTest, MareThenMareaScoreInOneTickUnlessEitherPlayerHoldsAWord
     };
     nestTicks = true;
     for (const auto& c : cases) {
-        state.paroleGiocatore = c.human;
-        state.paroleCPU = c.computer;
+        const auto& [human, computer, lookedUp, computerAfter, points] = c;
+        state.paroleGiocatore = human;
+        state.paroleCPU = computer;
         state.puntiCPU = 0;
         lookups.clear();
         scriptMareaWalk();
         walk.tick();
         Words prefixes;
-        for (std::size_t n = 3; n < 3 + c.lookedUp; ++n)
+        for (std::size_t n = 3; n < 3 + lookedUp; ++n)
             prefixes.push_back(std::string("MAREAZYXWV", n));
         EXPECT_EQ(lookups, prefixes);
-        EXPECT_EQ(state.paroleCPU, c.computerAfter);
-        EXPECT_EQ(state.puntiCPU, c.points);
+        EXPECT_EQ(state.paroleCPU, computerAfter);
+        EXPECT_EQ(state.puntiCPU, points);
         if (&c != cases) continue;
         EXPECT_EQ(random.seeds, std::vector<double>{1234.5});
         EXPECT_EQ(yieldScores, (std::vector<std::int32_t>{0, 320})); // points come after the yield
@@ -171,25 +165,22 @@ TEST_F(OpponentWalkTest, MareThenMareaScoreInOneTickUnlessEitherPlayerHoldsAWord
 }
 
 TEST_F(OpponentWalkTest, EveryAnswerButSiAndBusyIsCountedAsUnsuccessful) {
-    const struct {
-        const char* answer;
-        std::int32_t before;
-        const char* label; // empty: the tick ended and left the count and the label alone
-    } cases[] = {
+    // answer, count before, label (empty: the tick ended and left the count and the label alone)
+    const std::tuple<const char*, std::int32_t, const char*> cases[] = {
         {"NO", 0, " 1 ABC"}, {"", 41, " 42 ABC"}, {"si", 99999, " 100000 ABC"}, {"BUSY", 7, ""}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(std::string("answer \"") + c.answer + "\"");
-        state.ricercheFallite = c.before;
+    for (const auto& [answer, before, label] : cases) {
+        SCOPED_TRACE(std::string("answer \"") + answer + "\"");
+        state.ricercheFallite = before;
         state.ultimoTentativoCPU = "";
         lookups.clear();
-        answers = {c.answer, "BUSY"};
+        answers = {answer, "BUSY"};
         random.numbers = {die(0)};
         random.add(dir(Right), 3);
         walk.tick();
-        const bool counted = *c.label != '\0';
+        const bool counted = *label != '\0';
         EXPECT_EQ(lookups.size(), counted ? 2u : 1u);
-        EXPECT_EQ(state.ricercheFallite, c.before + (counted ? 1 : 0));
-        EXPECT_EQ(state.ultimoTentativoCPU, c.label);
+        EXPECT_EQ(state.ricercheFallite, before + (counted ? 1 : 0));
+        EXPECT_EQ(state.ultimoTentativoCPU, label);
         EXPECT_TRUE(state.paroleCPU.empty());
     }
 }

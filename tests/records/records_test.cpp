@@ -1,5 +1,4 @@
-// The record file read back through its traps, the ordering of a new score, the exact bytes
-// written, the list lines and when an opening writes at all.
+#include "records/record_address.h"
 #include "records/record_opening.h"
 #include "records/record_table.h"
 #include "tests/support/fakes.h"
@@ -10,6 +9,23 @@
 
 namespace griglione {
 namespace {
+
+// The submission address, part by part, with the notes trimmed and their marks replaced.
+
+TEST(RecordAddress, BuildsEveryPartInOrder) {
+    testing::ScriptedRandom random;
+    random.numbers = {0.0, 0.999999, 0.5};
+    testing::FixedClock clock;
+    const RecordDaInviare record{"  BRIVO ", 1240, 90, " a$b!c=d?e#f & 100% ", "a=b@c.it", 2};
+    EXPECT_EQ(indirizzoRecord(record, {5, 3, 2026, 7, 9}, random, clock),
+              "https://griglione.example.org/records/griglione.asp?Nome=BRIVO"
+              "&programma=Griglione_AZN&data=05-03-2026&punti=1240&Tempo=90"
+              "&Note=a_b_c_d?e#f___100_&E_MAIL=a=b@c.it&ora=07:09&Language=2");
+    EXPECT_EQ(random.reseeds, 1);
+}
+
+// The record file read back through its traps, the ordering of a new score, the exact bytes
+// written, the list lines and when an opening writes at all.
 
 RecordTable tableOf(const std::string& bytes) {
     std::istringstream in(bytes);
