@@ -1,28 +1,19 @@
 // The main window in a temporary folder: its start-up state, the announcement and F2, words played
 // with real clicks and keys, the confirmation, the options menus and the line width as drawn, two
 // short matches against the fastest opponent with the end-of-match window and the review between
-// them; the keyboard and the name box, the records window, the help links, and an installed game
-// whose changes are kept in the player's own folder.
-#include "core/addresses.h"
-#include "core/file_names.h"
-#include "platform/game_folder.h"
+// them, and the records window entered on leaving and opened from the menu.
 #include "tests/support/window_harness.h"
-#include "ui/end_of_match_window.h"
 #include "ui/time_bar.h"
 
-#include <QDir>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMenuBar>
 #include <QRadioButton>
 #include <QScopeGuard>
 #include <QTextEdit>
 
 using namespace griglione;
 using namespace griglione::testing;
-namespace fs = std::filesystem;
 
 class MainWindowTest : public QObject {
     Q_OBJECT
@@ -52,37 +43,6 @@ class MainWindowTest : public QObject {
         for (int y = 0; y < image.height(); ++y)
             rows += qRed(image.pixel(48, y)) < 64 && qBlue(image.pixel(48, y)) > 64;
         return rows;
-    }
-
-    // For the keyboard: the main window active and the name box focused.
-    void openForKeys(const std::string& settings = "") {
-        open(settings);
-        QApplication::setActiveWindow(game->window.get());
-        name()->setFocus();
-    }
-    QLineEdit* name() { return game->get<QLineEdit>("Text1"); }
-    // Types any character, as an input method would; QTest only types plain ASCII.
-    void type(const QString& text) {
-        for (const QChar c : text) {
-            QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
-            QApplication::sendEvent(name(), &press);
-        }
-    }
-    void focusTheBoard() { game->get("Picture1_0")->setFocus(); }
-    bool savedName(const std::string& name) {
-        return game->folder.read("ZARMOLO.INI").find("Giocatore1=" + name + "\r\n") !=
-               std::string::npos;
-    }
-    // Keys reach the menu's shortcuts only while the main window is the active one.
-    void press(const QString& keys) {
-        game->window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(game->window.get()));
-        QTest::keySequence(game->window.get(), QKeySequence(keys));
-    }
-    static QWidgetList informationWindows() {
-        QWidgetList found = QApplication::topLevelWidgets();
-        found.removeIf([](QWidget* w) { return w->objectName() != "Form3"; });
-        return found;
     }
 
 public:
@@ -347,112 +307,6 @@ private slots:
         QVERIFY(lineAt(100, 100) && lineAt(164, 36) && !lineAt(292, 292));
     }
 
-    void noTwoControlsOfAWindowShareAKey() {
-        openForKeys();
-        QWidget* main = game->window.get();
-        QCOMPARE(accessKeyClashes(main), QStringList());
-        // "&Opzioni" repeats L and P among its items; Qt moves between them, as menus do.
-        for (QMenu* menu : game->window->menuBar()->findChildren<QMenu*>())
-            if (menu->objectName() != "menuOpzioni")
-                QVERIFY2(accessKeyClashes(menu).isEmpty(), qPrintable(menu->objectName()));
-        QTimer one, two;
-        MessageHost messages(main);
-        EndOfMatchWindow endOfMatch(
-            one, two, game->sounds, messages, [] {}, main);
-        MessageWindow message({"INFO!", "Prova", "Testo"}, main);
-        ConfirmWindow confirm("ZEBRA", "Italiano", "", main);
-        for (QWidget* w : std::initializer_list<QWidget*>{&endOfMatch, &message, &confirm})
-            QCOMPARE(accessKeyClashes(w), QStringList());
-    }
-
-    void altOOpensTheOptionsMenuAtTheFirstPress() {
-        openForKeys();
-        focusTheBoard();
-        QTest::keyClick(game->window.get(), Qt::Key_O, Qt::AltModifier);
-        auto* options = game->window->menuBar()->findChild<QMenu*>("menuOpzioni");
-        QTRY_VERIFY(options->isVisible());
-        options->close();
-    }
-
-    // A name read is kept whole, a typed one is held to twelve characters of the file's own
-    // set and upper-cased; it is saved when another control, not a menu, takes the focus.
-    void theNameBoxKeepsTheFilesRulesAndSavesOnLeaving() {
-        const std::string settings = "Giocatore1= giocatorelungo \r\n";
-        openForKeys(settings);
-        QCOMPARE(name()->text(), QString(" GIOCATORELUNGO "));
-        QTest::keyClick(name(), Qt::Key_End);
-        type("x");
-        QTest::keyClick(name(), Qt::Key_Backspace);
-        game->window->menuBar()->setFocus(Qt::MenuBarFocusReason); // a menu opened by keyboard
-        name()->setFocus();
-        QCOMPARE(game->folder.read("ZARMOLO.INI"), settings);
-        focusTheBoard();
-        QVERIFY(savedName(" GIOCATORELUNGO"));
-        name()->clear();
-        type("abcdefghijklmn");
-        QCOMPARE(name()->text(), QString("abcdefghijkl"));
-        name()->clear();
-        type(QString::fromUtf8("aßµéΩ€"));
-        QCOMPARE(name()->text(), QString::fromUtf8("aßµé€"));
-        name()->setFocus();
-        focusTheBoard();
-        QCOMPARE(name()->text(), QString::fromUtf8("AßµÉ€"));
-        QVERIFY(savedName("A\xDF\xB5\xC9\x80"));
-    }
-
-    // Read-only, a full disk, a folder in its place: the choice still applies to the game.
-    void aSettingsFileThatCannotBeWrittenIsReportedAndKept() {
-        const std::string old = "Livello=100\r\nGiocatore1=ANNA\r\n";
-        for (const int damage : {0, 1, 2}) {
-            init();
-            openForKeys(old);
-            const auto file = game->folder.path() / "ZARMOLO.INI";
-            if (damage == 0) std::filesystem::permissions(file, std::filesystem::perms::owner_read);
-            if (damage == 2) std::filesystem::remove(file), std::filesystem::create_directory(file);
-            {
-                std::optional<WriteLimit> full;
-                if (damage == 1) full.emplace(20);
-                game->trigger("MenuMedio");
-            }
-            std::filesystem::permissions(file, std::filesystem::perms::owner_all);
-            QVERIFY(damage == 2 ? std::filesystem::is_directory(file)
-                                : game->folder.read("ZARMOLO.INI") == old);
-            QCOMPARE(texts(game->alerts.shown),
-                     QStringList("Errore 001: impossibile riscivere il file di inizializzazione "
-                                 "ZARMOLO.INI"));
-            QCOMPARE(game->timer("Timer2")->interval(), 300);
-            QVERIFY(game->get<QAction>("MenuMedio")->isChecked());
-        }
-    }
-
-    void theBoardFrameHugsTheDiceAndItsShadowShowsBelowRight() {
-        openForKeys();
-        QRect dice;
-        for (int n = 0; n < kCells; ++n)
-            dice |= game->get(qPrintable(QString("Picture1_%1").arg(n)))->geometry();
-        const QRect frame = game->get("Shape1_0")->geometry();
-        const QRect shadow = game->get("Shape1_1")->geometry();
-        QCOMPARE(frame.adjusted(1, 1, -1, -1), dice);
-        QCOMPARE(shadow.size(), frame.size());
-        QVERIFY(shadow.left() > frame.left() && shadow.bottom() > frame.bottom());
-    }
-
-    void theEndOfMatchWindowShowsItsPictureAndAWideNameWhole() {
-        QTimer one, two;
-        MessageHost messages(nullptr);
-        FakeSounds sounds;
-        EndOfMatchWindow endOfMatch(
-            one, two, sounds, messages, [] {}, nullptr);
-        const QString wide(12, 'W');
-        QTimer::singleShot(0, &endOfMatch, [&] {
-            auto* label = child<QLabel>(&endOfMatch, "Label3_0");
-            QVERIFY(label->fontMetrics().horizontalAdvance(wide) <= label->width());
-            child<QLabel>(&endOfMatch, "Picture3");
-            child<QAbstractButton>(&endOfMatch, "Command1")->click();
-        });
-        endOfMatch.showResult(wide, 0, 0, {});
-    }
-
     void fineEntersTheScoreAndOffersTheSubmission() {
         open();
         game->folder.write("zarMolo.HIS", "ANNA, 2000 \r\nCARLO,900\r\n");
@@ -500,97 +354,6 @@ private slots:
         QVERIFY(game->window->isEnabled());
         QVERIFY(game->timer("Timer1")->isActive());
         QCOMPARE(game->folder.read("zarMolo.HIS"), "ANNA, 2000 \r\nZED\r\n");
-    }
-
-    // Each row: what lies beside the game as GRIGLIONE.htm (a file, a folder or nothing), the
-    // keys pressed or the control clicked (of Form3 when so named), and the target opened.
-    void keysAndLinksOpenTheirTargets() {
-        const QString missing = "Non trovato file di documentazione/help GRIGLIONE.htm";
-        const QString mail = QString("mailto:") + kEmailAutore, site = kSitoWeb;
-        const QString rows[][3] = {{"file", "F1", "help"},      {"", "F1", ""},
-                                   {"folder", "F1", ""},        {"", "Ctrl+F8", mail},
-                                   {"", "Ctrl+F9", site},       {"", "Label12", site},
-                                   {"", "Form3/Label6", site},  {"", "Form3/Label3", mail},
-                                   {"", "Form3/Picture2", mail}};
-        for (const auto& [beside, input, target] : rows) {
-            init();
-            open();
-            const std::filesystem::path help = game->folder.path() / "GRIGLIONE.htm";
-            if (beside == "file") game->folder.write("GRIGLIONE.htm", "");
-            if (beside == "folder") std::filesystem::create_directory(help);
-            const QString opened =
-                target == "help" ? QString::fromStdString(help.string()) : target;
-            QWidget* owner = game->window.get();
-            if (input.startsWith("Form3/")) {
-                press("F4");
-                owner = informationWindows().value(0);
-                QVERIFY(owner);
-            }
-            if (input.contains("Label") || input.contains("Picture"))
-                QTest::mouseClick(child(owner, qPrintable(input.section('/', -1))), Qt::LeftButton);
-            else
-                press(input);
-            QCOMPARE(texts(game->outside.opened),
-                     opened.isEmpty() ? QStringList() : QStringList(opened));
-            QCOMPARE(texts(game->alerts.shown),
-                     opened.isEmpty() ? QStringList(missing) : QStringList());
-        }
-    }
-
-    void informationWindowIsRecreatedAndClosesTheMessage() {
-        open();
-        press("F4");
-        game->window->messages().mostraMessaggio({"INFO!", "Prova", "testo"}, false);
-        press("F4");
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCOMPARE(informationWindows().size(), 1);
-        QVERIFY(QTest::qWaitForWindowActive(informationWindows().first()));
-        QTRY_VERIFY(!game->window->messages().window());
-    }
-
-    // Last: it moves the working folder and the file search order, and puts them back.
-    void changesAreKeptInThePlayersFolder() {
-        GameHarness game;
-        const fs::path tree = game.folder.path(), program = tree / "games",
-                       data = tree / "share/games/griglione", player = tree / "xdg/griglione";
-        fs::create_directories(program);
-        fs::create_directories(data);
-        game.folder.write("share/games/griglione/SLESSICO.1",
-                          buildDictionaryFile("test", {{{"ERA"}}}));
-        fs::permissions(program, fs::perms::owner_write, fs::perm_options::remove);
-        qputenv("XDG_DATA_HOME", QByteArray::fromStdString((tree / "xdg").string()));
-        const QString before = QDir::currentPath();
-
-        QVERIFY(settleGameFolder(QString::fromStdString(program.string())));
-        QCOMPARE(fs::current_path(), player);
-        game.start([] {}, ".");
-        QCOMPARE(game.terminated, 0); // the shipped dictionary was found
-
-        game.trigger("MenuSuono");
-        game.trigger("menuNuovo");
-        game.timer("Timer2")->stop();
-        game.setBoard("ZEBRA");
-        for (int n = 0; n < 5; ++n)
-            game.press(n);
-        whenShown("Form6", [](QWidget* confirm) {
-            child<QRadioButton>(confirm, "Option1")->setChecked(true);
-            child<QAbstractButton>(confirm, "Command1")->click();
-        });
-        game.get<QAbstractButton>("Command2")->click();
-        game.window->state().puntiGiocatore = 1500;
-        whenShown("Form4", [](QWidget* records) { records->close(); });
-        game.trigger("MenuFine");
-        game.window.reset();
-
-        QDir::setCurrent(before);
-        setFileSearchOrder({});
-        QVERIFY(fs::exists(player / "ZARMOLO.INI"));
-        QCOMPARE(readWholeFile(player / "ZarmPriv.1").value_or(""), std::string("ZEBRA\r\n"));
-        QVERIFY(readWholeFile(player / "zarMolo.HIS").value_or("").starts_with("BRIVO, 1500 \r\n"));
-        for (const fs::path& shared : {program, data})
-            for (const char* name : {"ZARMOLO.INI", "ZarmPriv.1", "zarMolo.HIS"})
-                QVERIFY(!fs::exists(shared / name));
-        fs::permissions(program, fs::perms::owner_write, fs::perm_options::add);
     }
 };
 
