@@ -205,8 +205,7 @@ private slots:
         game.start();
         QVERIFY(QTest::qWaitForWindowActive(game.window.get()));
         game.trigger("menuNuovo");
-        QTimer* timer1 = game.timer("Timer1");
-        QTimer* timer2 = game.timer("Timer2");
+        QTimer *timer1 = game.timer("Timer1"), *timer2 = game.timer("Timer2");
         bool abandoned = false;
         std::function<void(QWidget*)> leave = [&](QWidget* form) {
             // Its access keys work only once it is the active window.

@@ -63,7 +63,7 @@ private slots:
     void init() { game = std::make_unique<GameHarness>(); }
     void cleanup() { game.reset(); }
 
-    void noTwoControlsOfAWindowShareAKey() {
+    void noTwoControlsShareAKeyAltOOpensItsMenuAndTheFrameHugsTheDice() {
         openForKeys();
         QWidget* main = game->window.get();
         QCOMPARE(accessKeyClashes(main), QStringList());
@@ -79,10 +79,7 @@ private slots:
         ConfirmWindow confirm("ZEBRA", "Italiano", "", main);
         for (QWidget* w : std::initializer_list<QWidget*>{&endOfMatch, &message, &confirm})
             QCOMPARE(accessKeyClashes(w), QStringList());
-    }
-
-    void altOOpensTheOptionsMenuAtTheFirstPress() {
-        openForKeys();
+        // Alt+O opens its menu at the first press.
         focusTheBoard();
         QTest::keyClick(game->window.get(), Qt::Key_O, Qt::AltModifier);
         auto* options = game->window->menuBar()->findChild<QMenu*>("menuOpzioni");
@@ -259,7 +256,9 @@ private slots:
                 QVERIFY(!fs::exists(shared / name));
         fs::permissions(program, fs::perms::owner_write, fs::perm_options::add);
     }
-    void everyDealableDieHasFourFacesOfOneSize() {
+    // Every die the pools can deal, with four faces of one size, every sound effect, and the help
+    // page with every picture it shows.
+    void theDataFilesTheGameNamesAreThere() {
         const QImage blank(QString::fromStdString((data / std::string(kBlankDie)).string()));
         QVERIFY(!blank.isNull());
         for (int language : {1, 2, 3})
@@ -272,16 +271,10 @@ private slots:
                         QVERIFY2(!die.isNull(), file.c_str());
                         QCOMPARE(die.size(), blank.size());
                     }
-    }
-
-    void everySoundEffectIsThere() {
         for (const char* name :
              {"COLLAPSE.WAV", "collapse.wav", "SND0002.wav", "SND0230.wav", "DOOLANE.WAV",
               "SHOOT1.WAV", "ROCHAN3.WAV", "perdi.wav", "vinci.wav", "explode2.wav", "SND0012.WAV"})
             QVERIFY2(std::filesystem::is_regular_file(resolveFileName(data, name)), name);
-    }
-
-    void theHelpPageAndEveryPictureAreThere() {
         QFile page(QString::fromStdString((data / "GRIGLIONE.htm").string()));
         QVERIFY(page.open(QIODevice::ReadOnly));
         const QString html = QString::fromUtf8(page.readAll());

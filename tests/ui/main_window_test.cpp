@@ -222,8 +222,7 @@ private slots:
         game->trigger("menuNuovo");
         game->setBoard("AEAEAEAEAEAEAEAEAEAEAEAEA"); // full of both words
         const auto aeBoard = state().immagineCella;
-        QTimer* timer1 = game->timer("Timer1");
-        QTimer* timer2 = game->timer("Timer2");
+        QTimer *timer1 = game->timer("Timer1"), *timer2 = game->timer("Timer2");
         // The clock waits for the opponent to find both words, and the opponent then rests, so that
         // no walk is halfway through a yield when the time runs out.
         timer1->setInterval(60'000);
