@@ -120,16 +120,15 @@ private slots:
             init();
             openForKeys(old);
             const auto file = game->folder.path() / "ZARMOLO.INI";
-            if (damage == 0) std::filesystem::permissions(file, std::filesystem::perms::owner_read);
-            if (damage == 2) std::filesystem::remove(file), std::filesystem::create_directory(file);
+            if (damage == 0) fs::permissions(file, fs::perms::owner_read);
+            if (damage == 2) fs::remove(file), fs::create_directory(file);
             {
                 std::optional<WriteLimit> full;
                 if (damage == 1) full.emplace(20);
                 game->trigger("MenuMedio");
             }
-            std::filesystem::permissions(file, std::filesystem::perms::owner_all);
-            QVERIFY(damage == 2 ? std::filesystem::is_directory(file)
-                                : game->folder.read("ZARMOLO.INI") == old);
+            fs::permissions(file, fs::perms::owner_all);
+            QVERIFY(damage == 2 ? fs::is_directory(file) : game->folder.read("ZARMOLO.INI") == old);
             QCOMPARE(texts(game->alerts.shown),
                      QStringList("Errore 001: impossibile riscivere il file di inizializzazione "
                                  "ZARMOLO.INI"));
@@ -168,7 +167,7 @@ private slots:
 
     // Each row: what lies beside the game as GRIGLIONE.htm (a file, a folder or nothing), the
     // keys pressed or the control clicked (of Form3 when so named), and the target opened.
-    void keysAndLinksOpenTheirTargets() {
+    void keysAndLinksOpenTheirTargetsAndF4RecreatesTheInformation() {
         const QString missing = "Non trovato file di documentazione/help GRIGLIONE.htm";
         const QString mail = QString("mailto:") + kEmailAutore, site = kSitoWeb;
         const QString rows[][3] = {{"file", "F1", "help"},      {"", "F1", ""},
@@ -179,9 +178,9 @@ private slots:
         for (const auto& [beside, input, target] : rows) {
             init();
             game->start();
-            const std::filesystem::path help = game->folder.path() / "GRIGLIONE.htm";
+            const fs::path help = game->folder.path() / "GRIGLIONE.htm";
             if (beside == "file") game->folder.write("GRIGLIONE.htm", "");
-            if (beside == "folder") std::filesystem::create_directory(help);
+            if (beside == "folder") fs::create_directory(help);
             const QString opened =
                 target == "help" ? QString::fromStdString(help.string()) : target;
             QWidget* owner = game->window.get();
@@ -199,11 +198,8 @@ private slots:
             QCOMPARE(texts(game->alerts.shown),
                      opened.isEmpty() ? QStringList(missing) : QStringList());
         }
-    }
-
-    void informationWindowIsRecreatedAndClosesTheMessage() {
-        game->start();
-        press("F4");
+        // With the information window open, a message shown and F4 again: a new one replaces
+        // it and the message closes.
         game->window->messages().mostraMessaggio({"INFO!", "Prova", "testo"}, false);
         press("F4");
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -274,7 +270,7 @@ private slots:
         for (const char* name :
              {"COLLAPSE.WAV", "collapse.wav", "SND0002.wav", "SND0230.wav", "DOOLANE.WAV",
               "SHOOT1.WAV", "ROCHAN3.WAV", "perdi.wav", "vinci.wav", "explode2.wav", "SND0012.WAV"})
-            QVERIFY2(std::filesystem::is_regular_file(resolveFileName(data, name)), name);
+            QVERIFY2(fs::is_regular_file(resolveFileName(data, name)), name);
         QFile page(QString::fromStdString((data / "GRIGLIONE.htm").string()));
         QVERIFY(page.open(QIODevice::ReadOnly));
         const QString html = QString::fromUtf8(page.readAll());
