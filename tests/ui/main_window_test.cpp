@@ -1,15 +1,15 @@
 // The main window in a temporary folder: its start-up state, the announcement and F2, words played
-// with real clicks and keys, the confirmation, the options menus and the line width as drawn, and
-// two short matches against the fastest opponent with the end-of-match window between them, and
-// the review of the board opened from it.
+// with real clicks and keys, the confirmation, the options menus and the line width as drawn, two
+// short matches against the fastest opponent with the end-of-match window and the review between
+// them, and the records window entered on leaving and opened from the menu.
 #include "tests/support/window_harness.h"
-#include "ui/message_window.h"
 #include "ui/time_bar.h"
 
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QTextEdit>
 
 using namespace griglione;
@@ -222,8 +222,7 @@ private slots:
         game->trigger("menuNuovo");
         game->setBoard("AEAEAEAEAEAEAEAEAEAEAEAEA"); // full of both words
         const auto aeBoard = state().immagineCella;
-        QTimer* timer1 = game->timer("Timer1");
-        QTimer* timer2 = game->timer("Timer2");
+        QTimer *timer1 = game->timer("Timer1"), *timer2 = game->timer("Timer2");
         // The clock waits for the opponent to find both words, and the opponent then rests, so that
         // no walk is halfway through a yield when the time runs out.
         timer1->setInterval(60'000);
@@ -292,8 +291,7 @@ private slots:
         whenShown("Form2", onResult);
         QTRY_COMPARE_WITH_TIMEOUT(shown, 2, 10000);
         QCOMPARE(opponentRan, 0);
-        QCOMPARE(history.size(), 2);
-        QCOMPARE(history[0], first.last());
+        QCOMPARE(history, QStringList({first.last(), "  2) BRIVO    0   Computer    0"}));
         QCOMPARE(game->terminated, 1); // "&Annulla"
         QVERIFY(timer1->isActive());   // and "&OK", after the review, goes on all the same
         QCOMPARE(reviewed, QStringList({"Il tabellone nascondeva 2 parole per 360 punti in tutto.",
@@ -305,6 +303,55 @@ private slots:
             return reviewBoard.pixelColor(x, y) == QColor(0, 0, 128);
         };
         QVERIFY(lineAt(100, 100) && lineAt(164, 36) && !lineAt(292, 292));
+    }
+
+    void fineEntersTheScoreAndOffersTheSubmission() {
+        open();
+        game->folder.write("zarMolo.HIS", "ANNA, 2000 \r\nCARLO,900\r\n");
+        game->window->state().puntiGiocatore = 1000;
+        bool seen = false;
+        QTimer::singleShot(0, [&] {
+            QWidget* shown = shownWindow("Form4");
+            QVERIFY(shown);
+            // A failed check must still end the modal window, or the test would hang.
+            const auto closeAtEnd = qScopeGuard([shown] { shown->close(); });
+            seen = true;
+            QVERIFY(!game->window->isEnabled());
+            QCOMPARE(child<QLabel>(shown, "Label1")->text(), QString("ANNA"));
+            QCOMPARE(child<QListWidget>(shown, "List1")->currentItem()->text(),
+                     QString(" 02 - BRIVO        -  01.000"));
+            child<QLineEdit>(shown, "Text1")->setText(" ciao a tutti & 100% ");
+            QTest::mouseClick(child(shown, "Label7"), Qt::LeftButton);
+            QTest::mouseClick(child(shown, "Command1"), Qt::LeftButton);
+        });
+        game->trigger("MenuFine");
+        QVERIFY(seen);
+        QVERIFY(game->window->isEnabled());
+        QVERIFY(!game->timer("Timer1")->isActive());
+        QVERIFY(game->folder.read("zarMolo.HIS")
+                    .starts_with("ANNA, 2000 \r\nBRIVO, 1000 \r\nCARLO, 900 \r\n, 0 \r\n"));
+        QCOMPARE(game->outside.opened.size(), std::size_t{1});
+        QVERIFY(game->outside.opened[0].find(
+                    "&punti=1000&Tempo=120&Note=ciao_a_tutti___100_&E_MAIL=&") !=
+                std::string::npos);
+    }
+
+    void theTableFromTheMenuLeavesTheFileAndTheMatchAlone() {
+        open();
+        game->folder.write("zarMolo.HIS", "ANNA, 2000 \r\nZED\r\n");
+        game->trigger("menuNuovo");
+        game->window->state().puntiGiocatore = 5000;
+        game->trigger("MenuHI");
+        QWidget* shown = shownWindow("Form4");
+        QVERIFY(shown);
+        QVERIFY(!game->window->isEnabled());
+        QVERIFY(game->timer("Timer1")->isActive());
+        QVERIFY(!child(shown, "Label7")->isEnabled());
+        QTest::mouseClick(child(shown, "Label2"), Qt::LeftButton);
+        QTRY_VERIFY(!shownWindow("Form4"));
+        QVERIFY(game->window->isEnabled());
+        QVERIFY(game->timer("Timer1")->isActive());
+        QCOMPARE(game->folder.read("zarMolo.HIS"), "ANNA, 2000 \r\nZED\r\n");
     }
 };
 
