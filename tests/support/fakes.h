@@ -97,8 +97,7 @@ public:
         std::ofstream(m_path / name, std::ios::binary) << bytes;
     }
     std::string read(const std::string& name) const {
-        std::ifstream in(m_path / name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+        return readWholeFile(m_path / name).value_or("");
     }
     bool exists(const std::string& name) const { return std::filesystem::exists(m_path / name); }
 
