@@ -21,7 +21,7 @@ nav strong { background: var(--verde); color: var(--giallo); border-radius: 0.3r
 table { width: 100%; border-collapse: collapse; margin: 1rem 0; background: #fff; }
 th, td { padding: 0.35rem 0.5rem; border-bottom: 1px solid var(--bordo); text-align: left;
   vertical-align: top; overflow-wrap: anywhere; }
-th { background: #e8f1e4; }
+th { background: #e8f1e4; overflow-wrap: normal; white-space: nowrap; }
 td.n { text-align: right; white-space: nowrap; font-variant-numeric: tabular-nums; }
 tr.tuo td { background: #fff6b0; font-weight: bold; }
 .avviso { border-left: 0.35rem solid var(--verde); background: #fff; padding: 0.6rem 1rem; }

@@ -22,6 +22,8 @@ PRAGMA user_version = 1;
 
 // Up to this many queued submissions share one transaction.
 constexpr std::size_t kBatch = 256;
+// WAL pages after which the checkpoint thread is woken (SQLite's own default threshold).
+constexpr int kCheckpointPages = 1000;
 
 constexpr const char* kRowColumns = "id, nome, punti, note, data, ora";
 
@@ -130,6 +132,7 @@ SqliteStore::SqliteStore(const std::filesystem::path& file, int readers) {
         exec(m_writer, "PRAGMA journal_mode = WAL");
         // FULL: a commit is on the disk before the page says "registrato".
         exec(m_writer, "PRAGMA synchronous = FULL");
+        sqlite3_wal_autocheckpoint(m_writer, 0);
         exec(m_writer, "BEGIN IMMEDIATE");
         sqlite3_stmt* version = prepare(m_writer, "PRAGMA user_version");
         sqlite3_step(version);
@@ -169,7 +172,37 @@ SqliteStore::SqliteStore(const std::filesystem::path& file, int readers) {
         throw;
     }
     m_idle = m_readers;
+    m_checkpointer = open(file, SQLITE_OPEN_READWRITE);
+    sqlite3_wal_hook(
+        m_writer,
+        [](void* store, sqlite3*, const char*, int pages) {
+            if (pages >= kCheckpointPages) {
+                auto* self = static_cast<SqliteStore*>(store);
+                {
+                    std::lock_guard lock(self->m_checkpointMutex);
+                    self->m_checkpointDue = true;
+                }
+                self->m_walGrown.notify_one();
+            }
+            return SQLITE_OK;
+        },
+        this);
+    m_checkpointThread = std::thread([this] { checkpointLoop(); });
     m_thread = std::thread([this] { writeLoop(); });
+}
+
+void SqliteStore::checkpointLoop() {
+    for (;;) {
+        {
+            std::unique_lock lock(m_checkpointMutex);
+            m_walGrown.wait(lock, [this] { return m_checkpointDue || m_checkpointStopping; });
+            if (m_checkpointStopping) return;
+            m_checkpointDue = false;
+        }
+        // PASSIVE: copies what it can without waiting for, or holding up, the writer.
+        sqlite3_wal_checkpoint_v2(m_checkpointer, nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr,
+                                  nullptr);
+    }
 }
 
 SqliteStore::~SqliteStore() {
@@ -180,6 +213,14 @@ SqliteStore::~SqliteStore() {
         }
         m_queued.notify_one();
         m_thread.join();
+    }
+    if (m_checkpointThread.joinable()) {
+        {
+            std::lock_guard lock(m_checkpointMutex);
+            m_checkpointStopping = true;
+        }
+        m_walGrown.notify_one();
+        m_checkpointThread.join();
     }
     release();
 }
@@ -194,6 +235,9 @@ void SqliteStore::release() {
     m_readers.clear();
     sqlite3_finalize(m_insert);
     sqlite3_finalize(m_existing);
+    sqlite3_close(m_checkpointer);
+    m_checkpointer = nullptr;
+    // The last connection to close checkpoints the WAL into the database and removes it.
     sqlite3_close(m_writer);
     m_writer = nullptr;
 }
