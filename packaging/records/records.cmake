@@ -42,6 +42,6 @@ and as JSON, with the game's home page and help. Runs as a systemd service
 under its own system user.")
 set(CPACK_DEBIAN_RECORDS_PACKAGE_SECTION web)
 set(CPACK_DEBIAN_RECORDS_PACKAGE_RECOMMENDS "")
-set(CPACK_DEBIAN_RECORDS_PACKAGE_DEPENDS "adduser, init-system-helpers")
+set(CPACK_DEBIAN_RECORDS_PACKAGE_DEPENDS "adduser")
 set(CPACK_DEBIAN_RECORDS_PACKAGE_CONTROL_EXTRA
     "${records_dir}/conffiles;${records_dir}/postinst;${records_dir}/prerm;${records_dir}/postrm")
