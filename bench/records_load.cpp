@@ -2,7 +2,7 @@
 // a few keep-alive clients for a bounded time and count. Prints throughput and latency and fails
 // below 2,000 submissions/s or 10,000 views/s, at a p99 of 20 ms or more, on any error, or when a
 // record the service called stored is missing from the database afterwards.
-//   records_load [SECONDS per phase (3)] [CLIENTS (8)]
+//   records_load [SECONDS per phase (3)] [CLIENTS (16)]
 #include "server/http_front.h"
 #include "server/records_service.h"
 #include "server/sqlite_store.h"
@@ -10,6 +10,8 @@
 
 #include <httplib.h>
 #include <sqlite3.h>
+
+#include <fcntl.h>
 
 #include <algorithm>
 #include <atomic>
@@ -96,6 +98,26 @@ bool report(const char* what, const Tally& t, double elapsed, double minimumRate
     return rate >= minimumRate && p99 < 20.0 && t.errors == 0;
 }
 
+// The disk's fsync time, which bounds every durable commit: printed beside the figures.
+void reportFsync(const std::filesystem::path& folder) {
+    const std::string file = (folder / "fsync-probe").string();
+    const int fd = ::open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    if (fd < 0) return;
+    std::vector<double> times;
+    const std::string page(4096, 'x');
+    for (int i = 0; i < 100; ++i) {
+        if (::write(fd, page.data(), page.size()) < 0) break;
+        const auto start = Clock::now();
+        ::fsync(fd);
+        times.push_back(std::chrono::duration<double, std::milli>(Clock::now() - start).count());
+    }
+    ::close(fd);
+    std::filesystem::remove(file);
+    std::sort(times.begin(), times.end());
+    std::printf("fsync of 4 KB on this disk: p50 %.2f ms  p99 %.2f ms\n", percentile(times, 0.5),
+                percentile(times, 0.99));
+}
+
 long rowsIn(const std::filesystem::path& file) {
     sqlite3* db = nullptr;
     sqlite3_stmt* count = nullptr;
@@ -114,12 +136,13 @@ long rowsIn(const std::filesystem::path& file) {
 int main(int argc, char** argv) {
     using namespace griglione;
     const double seconds = argc > 1 ? std::clamp(std::atof(argv[1]), 0.5, 30.0) : 3.0;
-    const int clients = argc > 2 ? std::clamp(std::atoi(argv[2]), 1, 64) : 8;
+    const int clients = argc > 2 ? std::clamp(std::atoi(argv[2]), 1, 64) : 16;
     const auto folder =
         std::filesystem::temp_directory_path() / ("griglione-load-" + std::to_string(::getpid()));
     std::filesystem::create_directories(folder);
     const auto database = folder / "records.sqlite";
 
+    reportFsync(folder);
     long stored = 0;
     bool ok = true;
     {

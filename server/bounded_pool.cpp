@@ -1,3 +1,4 @@
+// The HTTP workers: threads that take connections from a queue with a ceiling.
 #include "server/bounded_pool.h"
 
 namespace griglione {

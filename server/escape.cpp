@@ -1,3 +1,4 @@
+// HTML entities, JSON strings and Italian digit grouping for what the service writes.
 #include "server/escape.h"
 
 namespace griglione {

@@ -1,3 +1,4 @@
+// Routes and limits of the records service on cpp-httplib; every answer is a page or JSON.
 #include "server/http_front.h"
 
 #include "server/bounded_pool.h"

@@ -1,3 +1,4 @@
+// The Italian pages of the records service, in one style, and the world table as JSON.
 #include "server/pages.h"
 
 #include "server/escape.h"

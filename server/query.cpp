@@ -1,3 +1,4 @@
+// Splitting a query at "&" and "=" and percent-decoding it to bytes.
 #include "server/query.h"
 
 namespace griglione {

@@ -1,3 +1,4 @@
+// Counting submissions per client address in one-minute windows.
 #include "server/rate_limiter.h"
 
 #include <iterator>

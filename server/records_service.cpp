@@ -1,3 +1,5 @@
+// Submission, world table and home page as replies; rendered tables kept until a record changes
+// them.
 #include "server/records_service.h"
 
 #include "server/pages.h"

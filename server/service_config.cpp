@@ -1,3 +1,4 @@
+// Reading the service's settings from its configuration file and its command line.
 #include "server/service_config.h"
 
 #include <charconv>

@@ -1,3 +1,4 @@
+// The world table in SQLite: schema, group commit on one writer thread, pooled readers.
 #include "server/sqlite_store.h"
 
 #include <sqlite3.h>
@@ -202,6 +203,10 @@ void SqliteStore::checkpointLoop() {
         // PASSIVE: copies what it can without waiting for, or holding up, the writer.
         sqlite3_wal_checkpoint_v2(m_checkpointer, nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr,
                                   nullptr);
+        // At most one a second: while readers keep the WAL from starting over, every commit
+        // would otherwise ask for another.
+        std::unique_lock lock(m_checkpointMutex);
+        m_walGrown.wait_for(lock, std::chrono::seconds(1), [this] { return m_checkpointStopping; });
     }
 }
 

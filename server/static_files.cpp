@@ -1,3 +1,4 @@
+// Loading the help page and its pictures once, by plain file name.
 #include "server/static_files.h"
 
 #include <fstream>

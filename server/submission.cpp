@@ -1,3 +1,4 @@
+// The checks of a record submission: parts, name, dates, score bound, Windows-1252 texts.
 #include "server/submission.h"
 
 #include "core/ansi_text.h"

@@ -1,3 +1,5 @@
+// The records service without HTTP: query traps, the refusals, escaping, duplicates, places,
+// the rate limit, the schema version and the settings.
 #include "server/pages.h"
 #include "server/query.h"
 #include "server/records_service.h"
