@@ -88,9 +88,13 @@ std::string confirmationPage(const WorldRecord& record, bool nuovo, int posto,
     body += nuovo ? "Il tuo record è registrato nella tabella mondiale."
                   : "Questo record era già registrato: non è stato aggiunto una seconda volta.";
     body += "</strong></p><p>" + htmlEscape(record.nome) + ", " + groupedNumber(record.punti) +
-            " punti: " + std::to_string(posto) + "° posto nella tabella del " +
-            tableTitle(record.lingua, record.tempo) + ".</p></div>\n";
-    body += "<h2>Il tuo posto in classifica</h2>\n" + rowsTable(intorno, id);
+            " punti";
+    // No place when the table could not be read back just now: the record is stored all the same.
+    if (posto > 0)
+        body += ": " + std::to_string(posto) + "° posto nella tabella del " +
+                tableTitle(record.lingua, record.tempo);
+    body += ".</p></div>\n";
+    if (!intorno.empty()) body += "<h2>Il tuo posto in classifica</h2>\n" + rowsTable(intorno, id);
     body += "<p><a href=\"" + tableLink(record.lingua, record.tempo) +
             "\">I migliori 50 di questa tabella</a></p>\n";
     return frame(nuovo ? "Record registrato" : "Record già registrato", body);
