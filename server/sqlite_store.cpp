@@ -16,7 +16,7 @@ CREATE TABLE record (
     tempo INTEGER NOT NULL, note TEXT NOT NULL, email TEXT NOT NULL, ora TEXT NOT NULL,
     lingua INTEGER NOT NULL,
     ricevuto TEXT NOT NULL DEFAULT (strftime('%Y-%m-%dT%H:%M:%SZ', 'now')),
-    UNIQUE (nome, programma, data, punti, tempo, note, email, ora, lingua));
+    UNIQUE (nome, data, punti, tempo, note, email, lingua));
 CREATE INDEX classifica ON record (lingua, tempo, punti DESC, id);
 PRAGMA user_version = 1;
 )";
@@ -149,9 +149,11 @@ SqliteStore::SqliteStore(const std::filesystem::path& file, int readers) {
         exec(m_writer, "COMMIT");
         m_insert = prepare(m_writer, "INSERT OR IGNORE INTO record (nome, programma, data, punti, "
                                      "tempo, note, email, ora, lingua) VALUES (?,?,?,?,?,?,?,?,?)");
-        m_existing = prepare(m_writer, "SELECT id FROM record WHERE nome=? AND programma=? AND "
-                                       "data=? AND punti=? AND tempo=? AND note=? AND email=? "
-                                       "AND ora=? AND lingua=?");
+        // The same record sent again: each click on the game's link draws new "programma" letters
+        // and may fall in a new minute, so neither tells two submissions apart.
+        m_existing = prepare(m_writer, "SELECT id FROM record WHERE nome=?1 AND data=?3 AND "
+                                       "punti=?4 AND tempo=?5 AND note=?6 AND email=?7 AND "
+                                       "lingua=?9");
         for (int i = 0; i < readers; ++i) {
             auto* reader = new Reader;
             m_readers.push_back(reader);

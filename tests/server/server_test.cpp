@@ -139,8 +139,12 @@ struct ServiceTest : ::testing::Test {
 };
 
 TEST_F(ServiceTest, StoresOnceShowsEscapedAndNeverTheEmail) {
-    const std::string query = with("Nome", "%3Cb%3E%27x%22") + "";
-    const Reply first = send(query), again = send(query, "10.0.0.2");
+    const std::string query = with("Nome", "%3Cb%3E%27x%22");
+    // A second click on the game's link: new "programma" letters, a later minute.
+    std::string clickedAgain = query;
+    clickedAgain.replace(clickedAgain.find("_QWE"), 4, "_ZZZ");
+    clickedAgain.replace(clickedAgain.find("23:59"), 5, "00:01");
+    const Reply first = send(query), again = send(clickedAgain, "10.0.0.2");
     EXPECT_EQ(first.status, 200);
     EXPECT_NE(first.body.find("è registrato"), std::string::npos);
     EXPECT_NE(again.body.find("era già registrato"), std::string::npos);
