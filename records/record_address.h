@@ -20,6 +20,7 @@ struct DataOra {
     int minuti = 0;
 };
 
+// The texts as typed (UTF-8); they travel as Windows-1252, like every text of the game.
 struct RecordDaInviare {
     std::string nome;
     std::int32_t punti = 0;
@@ -29,7 +30,14 @@ struct RecordDaInviare {
     std::int32_t numDizionario = 1;
 };
 
-// kPaginaRecord followed by the query parts, unencoded, in the page's own order.
+// The records service's home page, always ending in "/": the environment's
+// GRIGLIONE_RECORDS_URL when it is set and not empty, otherwise kSitoWeb.
+std::string indirizzoServizio();
+
+// The submission page followed by the query parts in the page's own order. Name, notes and
+// e-mail are percent-encoded byte by byte in Windows-1252 outside A-Z a-z 0-9 "-._~", so that
+// "#", "&", "=", "+", "%", blanks and accents reach the page whole; nothing may encode the
+// address again.
 std::string indirizzoRecord(RecordDaInviare record, const DataOra& adesso, Random& random,
                             const Clock& clock);
 

@@ -2,6 +2,7 @@
 
 #include "core/addresses.h"
 #include "core/file_names.h"
+#include "records/record_address.h"
 #include "ui/information_window.h"
 #include "ui/link_cursor.h"
 #include "ui/menu_bar.h"
@@ -50,7 +51,7 @@ void HelpLinks::mail() {
 }
 
 void HelpLinks::homePage() {
-    m_outside.apri(kSitoWeb);
+    m_outside.apri(indirizzoServizio());
 }
 
 void HelpLinks::info() {

@@ -20,7 +20,7 @@ TEST(RecordAddress, BuildsEveryPartInOrder) {
     EXPECT_EQ(indirizzoRecord(record, {5, 3, 2026, 7, 9}, random, clock),
               "https://griglione.example.org/records/griglione.asp?Nome=BRIVO"
               "&programma=Griglione_AZN&data=05-03-2026&punti=1240&Tempo=90"
-              "&Note=a_b_c_d?e#f___100_&E_MAIL=a=b@c.it&ora=07:09&Language=2");
+              "&Note=a_b_c_d%3Fe%23f___100_&E_MAIL=a%3Db%40c.it&ora=07:09&Language=2");
     EXPECT_EQ(random.reseeds, 1);
 }
 

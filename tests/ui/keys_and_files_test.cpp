@@ -8,6 +8,7 @@
 #include "core/addresses.h"
 #include "core/file_names.h"
 #include "platform/game_folder.h"
+#include "platform/outside_opener.h"
 #include "tests/support/window_harness.h"
 #include "ui/end_of_match_window.h"
 
@@ -206,6 +207,19 @@ private slots:
         QCOMPARE(informationWindows().size(), 1);
         QVERIFY(QTest::qWaitForWindowActive(informationWindows().first()));
         QTRY_VERIFY(!game->window->messages().window());
+    }
+
+    // A records address arrives already encoded: the desktop gets its bytes as they are. The
+    // site links follow the service named by the environment.
+    void recordAddressesAreNotEncodedAgainAndTheSiteFollowsTheService() {
+        const QByteArray address = "http://127.0.0.1:8089/records/griglione.asp?Nome=A%23B%20%26"
+                                   "%C8&Note=x%25_%2B&E_MAIL=a%40b.it&ora=07:09";
+        QCOMPARE(OutsideOpener::urlOf(address.toStdString()).toEncoded(), address);
+        qputenv("GRIGLIONE_RECORDS_URL", "http://127.0.0.1:9");
+        game->start();
+        press("Ctrl+F9");
+        qunsetenv("GRIGLIONE_RECORDS_URL");
+        QCOMPARE(texts(game->outside.opened), QStringList("http://127.0.0.1:9/"));
     }
 
     // It moves the working folder and the file search order, and puts them back at its end.

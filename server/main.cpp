@@ -1,0 +1,56 @@
+// griglione-records: the world-records service. Reads its settings, opens the database and serves
+// until SIGINT or SIGTERM, finishing the requests under way.
+#include "server/http_front.h"
+#include "server/records_service.h"
+#include "server/service_config.h"
+#include "server/sqlite_store.h"
+#include "server/static_files.h"
+
+#include <csignal>
+#include <iostream>
+#include <pthread.h>
+#include <thread>
+
+int main(int argc, char** argv) {
+    using namespace griglione;
+    ServiceConfig config;
+    if (const std::string error = readArguments(argc, argv, config); !error.empty()) {
+        std::cerr << "griglione-records: " << error << "\n";
+        return 2;
+    }
+    // The signals are taken by one thread of our own, which can stop the server safely.
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGINT);
+    sigaddset(&signals, SIGTERM);
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+    std::signal(SIGPIPE, SIG_IGN);
+
+    try {
+        SqliteStore store(config.database);
+        RecordsService service(store, config.submissionsPerMinute);
+        const StaticFiles files(config.pages);
+        HttpFront front(service, files, config.threads);
+        const int port = front.bind(config.address, config.port);
+        if (port < 0) {
+            std::cerr << "griglione-records: impossibile ascoltare su " << config.address << ":"
+                      << config.port << "\n";
+            return 1;
+        }
+        std::cout << "griglione-records in ascolto su http://" << config.address << ":" << port
+                  << "/ (database " << config.database.string() << ")" << std::endl;
+        std::thread stopper([&] {
+            int signal = 0;
+            sigwait(&signals, &signal);
+            front.stop();
+        });
+        const bool ok = front.run();
+        if (!ok) pthread_kill(stopper.native_handle(), SIGTERM);
+        stopper.join();
+        std::cout << "griglione-records fermato." << std::endl;
+        return ok ? 0 : 1;
+    } catch (const std::exception& error) {
+        std::cerr << "griglione-records: " << error.what() << "\n";
+        return 1;
+    }
+}

@@ -1,0 +1,344 @@
+// The world table in SQLite: schema, group commit on one writer thread, pooled readers.
+#include "server/sqlite_store.h"
+
+#include <sqlite3.h>
+
+#include <future>
+#include <stdexcept>
+
+namespace griglione {
+namespace {
+
+constexpr const char* kSchema = R"(
+CREATE TABLE record (
+    id INTEGER PRIMARY KEY,
+    nome TEXT NOT NULL, programma TEXT NOT NULL, data TEXT NOT NULL, punti INTEGER NOT NULL,
+    tempo INTEGER NOT NULL, note TEXT NOT NULL, email TEXT NOT NULL, ora TEXT NOT NULL,
+    lingua INTEGER NOT NULL,
+    ricevuto TEXT NOT NULL DEFAULT (strftime('%Y-%m-%dT%H:%M:%SZ', 'now')),
+    UNIQUE (nome, data, punti, tempo, note, email, lingua));
+CREATE INDEX classifica ON record (lingua, tempo, punti DESC, id);
+PRAGMA user_version = 1;
+)";
+
+// Up to this many queued submissions share one transaction.
+constexpr std::size_t kBatch = 256;
+// WAL pages after which the checkpoint thread is woken (SQLite's own default threshold).
+constexpr int kCheckpointPages = 1000;
+
+constexpr const char* kRowColumns = "id, nome, punti, note, data, ora";
+
+[[noreturn]] void fail(sqlite3* db, const std::string& what) {
+    throw std::runtime_error("Database non utilizzabile (" + what +
+                             "): " + (db ? sqlite3_errmsg(db) : "memoria esaurita"));
+}
+
+void exec(sqlite3* db, const char* sql) {
+    if (sqlite3_exec(db, sql, nullptr, nullptr, nullptr) != SQLITE_OK) fail(db, sql);
+}
+
+sqlite3_stmt* prepare(sqlite3* db, const std::string& sql) {
+    sqlite3_stmt* statement = nullptr;
+    if (sqlite3_prepare_v3(db, sql.c_str(), -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr) !=
+        SQLITE_OK)
+        fail(db, "Istruzione SQL non valida");
+    return statement;
+}
+
+sqlite3* open(const std::filesystem::path& file, int flags) {
+    sqlite3* db = nullptr;
+    if (sqlite3_open_v2(file.c_str(), &db, flags | SQLITE_OPEN_NOMUTEX, nullptr) != SQLITE_OK) {
+        const std::string message = db ? sqlite3_errmsg(db) : "memoria esaurita";
+        sqlite3_close(db);
+        throw std::runtime_error("Impossibile aprire il database " + file.string() + ": " +
+                                 message);
+    }
+    sqlite3_busy_timeout(db, 5000);
+    return db;
+}
+
+void bindText(sqlite3_stmt* statement, int at, const std::string& text) {
+    sqlite3_bind_text(statement, at, text.data(), static_cast<int>(text.size()), SQLITE_STATIC);
+}
+
+void bindRecord(sqlite3_stmt* s, const WorldRecord& r) {
+    bindText(s, 1, r.nome);
+    bindText(s, 2, r.programma);
+    bindText(s, 3, r.data);
+    sqlite3_bind_int(s, 4, r.punti);
+    sqlite3_bind_int(s, 5, r.tempo);
+    bindText(s, 6, r.note);
+    bindText(s, 7, r.email);
+    bindText(s, 8, r.ora);
+    sqlite3_bind_int(s, 9, r.lingua);
+}
+
+std::string text(sqlite3_stmt* s, int column) {
+    const auto* bytes = reinterpret_cast<const char*>(sqlite3_column_text(s, column));
+    return bytes ? std::string(bytes, static_cast<std::size_t>(sqlite3_column_bytes(s, column)))
+                 : std::string();
+}
+
+// Reads the rows of a statement selecting kRowColumns, numbering them from `firstPlace`.
+bool readRows(sqlite3_stmt* s, int firstPlace, std::vector<TableRow>& rows) {
+    int status;
+    while ((status = sqlite3_step(s)) == SQLITE_ROW)
+        rows.push_back({firstPlace++, sqlite3_column_int64(s, 0), text(s, 1),
+                        sqlite3_column_int(s, 2), text(s, 3), text(s, 4), text(s, 5)});
+    sqlite3_reset(s);
+    return status == SQLITE_DONE;
+}
+
+} // namespace
+
+struct SqliteStore::Pending {
+    const WorldRecord& record;
+    std::promise<std::optional<Stored>> done;
+};
+
+struct SqliteStore::Reader {
+    sqlite3* db = nullptr;
+    sqlite3_stmt* best = nullptr;
+    sqlite3_stmt* where = nullptr;
+    sqlite3_stmt* ahead = nullptr;
+    sqlite3_stmt* window = nullptr;
+};
+
+// A reader borrowed from the pool for one call.
+class SqliteStore::Lease {
+public:
+    explicit Lease(SqliteStore& store) : m_store(store) {
+        std::unique_lock lock(store.m_readMutex);
+        store.m_readerFree.wait(lock, [&] { return !store.m_idle.empty(); });
+        m_reader = store.m_idle.back();
+        store.m_idle.pop_back();
+    }
+    ~Lease() {
+        {
+            std::lock_guard lock(m_store.m_readMutex);
+            m_store.m_idle.push_back(m_reader);
+        }
+        m_store.m_readerFree.notify_one();
+    }
+    Reader& operator*() const { return *m_reader; }
+
+private:
+    SqliteStore& m_store;
+    Reader* m_reader;
+};
+
+SqliteStore::SqliteStore(const std::filesystem::path& file, int readers) {
+    m_writer = open(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+    try {
+        exec(m_writer, "PRAGMA journal_mode = WAL");
+        // FULL: a commit is on the disk before the page says "registrato".
+        exec(m_writer, "PRAGMA synchronous = FULL");
+        sqlite3_wal_autocheckpoint(m_writer, 0);
+        exec(m_writer, "BEGIN IMMEDIATE");
+        sqlite3_stmt* version = prepare(m_writer, "PRAGMA user_version");
+        sqlite3_step(version);
+        const int found = sqlite3_column_int(version, 0);
+        sqlite3_finalize(version);
+        if (found > kSchemaVersion) {
+            exec(m_writer, "ROLLBACK");
+            throw std::runtime_error("Il database " + file.string() + " è della versione " +
+                                     std::to_string(found) +
+                                     " dello schema, più recente di questo programma.");
+        }
+        if (found == 0) exec(m_writer, kSchema);
+        exec(m_writer, "COMMIT");
+        m_insert = prepare(m_writer, "INSERT OR IGNORE INTO record (nome, programma, data, punti, "
+                                     "tempo, note, email, ora, lingua) VALUES (?,?,?,?,?,?,?,?,?)");
+        // The same record sent again: each click on the game's link draws new "programma" letters
+        // and may fall in a new minute, so neither tells two submissions apart.
+        m_existing = prepare(m_writer, "SELECT id FROM record WHERE nome=?1 AND data=?3 AND "
+                                       "punti=?4 AND tempo=?5 AND note=?6 AND email=?7 AND "
+                                       "lingua=?9");
+        for (int i = 0; i < readers; ++i) {
+            auto* reader = new Reader;
+            m_readers.push_back(reader);
+            reader->db = open(file, SQLITE_OPEN_READONLY);
+            const std::string order = " ORDER BY punti DESC, id ASC";
+            reader->best = prepare(reader->db, std::string("SELECT ") + kRowColumns +
+                                                   " FROM record WHERE lingua=? AND tempo=?" +
+                                                   order + " LIMIT ?");
+            reader->where =
+                prepare(reader->db, "SELECT lingua, tempo, punti FROM record WHERE id=?");
+            reader->ahead = prepare(reader->db, "SELECT count(*) FROM record WHERE lingua=?1 AND "
+                                                "tempo=?2 AND (punti>?3 OR (punti=?3 AND id<?4))");
+            reader->window = prepare(reader->db, std::string("SELECT ") + kRowColumns +
+                                                     " FROM record WHERE lingua=? AND tempo=?" +
+                                                     order + " LIMIT ? OFFSET ?");
+        }
+    } catch (...) {
+        release();
+        throw;
+    }
+    m_idle = m_readers;
+    m_checkpointer = open(file, SQLITE_OPEN_READWRITE);
+    sqlite3_wal_hook(
+        m_writer,
+        [](void* store, sqlite3*, const char*, int pages) {
+            if (pages >= kCheckpointPages) {
+                auto* self = static_cast<SqliteStore*>(store);
+                {
+                    std::lock_guard lock(self->m_checkpointMutex);
+                    self->m_checkpointDue = true;
+                }
+                self->m_walGrown.notify_one();
+            }
+            return SQLITE_OK;
+        },
+        this);
+    m_checkpointThread = std::thread([this] { checkpointLoop(); });
+    m_thread = std::thread([this] { writeLoop(); });
+}
+
+void SqliteStore::checkpointLoop() {
+    for (;;) {
+        {
+            std::unique_lock lock(m_checkpointMutex);
+            m_walGrown.wait(lock, [this] { return m_checkpointDue || m_checkpointStopping; });
+            if (m_checkpointStopping) return;
+            m_checkpointDue = false;
+        }
+        // PASSIVE: copies what it can without waiting for, or holding up, the writer.
+        sqlite3_wal_checkpoint_v2(m_checkpointer, nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr,
+                                  nullptr);
+        // At most one a second: while readers keep the WAL from starting over, every commit
+        // would otherwise ask for another.
+        std::unique_lock lock(m_checkpointMutex);
+        m_walGrown.wait_for(lock, std::chrono::seconds(1), [this] { return m_checkpointStopping; });
+    }
+}
+
+SqliteStore::~SqliteStore() {
+    if (m_thread.joinable()) {
+        {
+            std::lock_guard lock(m_queueMutex);
+            m_stopping = true;
+        }
+        m_queued.notify_one();
+        m_thread.join();
+    }
+    if (m_checkpointThread.joinable()) {
+        {
+            std::lock_guard lock(m_checkpointMutex);
+            m_checkpointStopping = true;
+        }
+        m_walGrown.notify_one();
+        m_checkpointThread.join();
+    }
+    release();
+}
+
+void SqliteStore::release() {
+    for (Reader* reader : m_readers) {
+        for (sqlite3_stmt* s : {reader->best, reader->where, reader->ahead, reader->window})
+            sqlite3_finalize(s);
+        sqlite3_close(reader->db);
+        delete reader;
+    }
+    m_readers.clear();
+    sqlite3_finalize(m_insert);
+    sqlite3_finalize(m_existing);
+    sqlite3_close(m_checkpointer);
+    m_checkpointer = nullptr;
+    // The last connection to close checkpoints the WAL into the database and removes it.
+    sqlite3_close(m_writer);
+    m_writer = nullptr;
+}
+
+std::optional<Stored> SqliteStore::add(const WorldRecord& record) {
+    Pending pending{record, {}};
+    auto result = pending.done.get_future();
+    {
+        std::lock_guard lock(m_queueMutex);
+        m_queue.push_back(&pending);
+    }
+    m_queued.notify_one();
+    return result.get();
+}
+
+void SqliteStore::writeLoop() {
+    for (;;) {
+        std::vector<Pending*> batch;
+        {
+            std::unique_lock lock(m_queueMutex);
+            m_queued.wait(lock, [this] { return m_stopping || !m_queue.empty(); });
+            if (m_queue.empty()) return;
+            while (!m_queue.empty() && batch.size() < kBatch) {
+                batch.push_back(m_queue.front());
+                m_queue.pop_front();
+            }
+        }
+        std::vector<std::optional<Stored>> results;
+        bool ok = sqlite3_exec(m_writer, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) == SQLITE_OK;
+        for (std::size_t i = 0; ok && i < batch.size(); ++i) {
+            results.push_back(insert(batch[i]->record));
+            ok = results.back().has_value();
+        }
+        ok = ok && sqlite3_exec(m_writer, "COMMIT", nullptr, nullptr, nullptr) == SQLITE_OK;
+        if (!ok) sqlite3_exec(m_writer, "ROLLBACK", nullptr, nullptr, nullptr);
+        // Nobody hears "stored" before the commit is done, and after a failure nobody does.
+        for (std::size_t i = 0; i < batch.size(); ++i)
+            batch[i]->done.set_value(ok ? results[i] : std::nullopt);
+    }
+}
+
+std::optional<Stored> SqliteStore::insert(const WorldRecord& record) {
+    bindRecord(m_insert, record);
+    const int status = sqlite3_step(m_insert);
+    sqlite3_reset(m_insert);
+    if (status != SQLITE_DONE) return std::nullopt;
+    if (sqlite3_changes(m_writer) == 1) return Stored{true, sqlite3_last_insert_rowid(m_writer)};
+    bindRecord(m_existing, record);
+    std::optional<Stored> old;
+    if (sqlite3_step(m_existing) == SQLITE_ROW)
+        old = Stored{false, sqlite3_column_int64(m_existing, 0)};
+    sqlite3_reset(m_existing);
+    return old;
+}
+
+std::optional<std::vector<TableRow>> SqliteStore::best(int lingua, int tempo, int count) {
+    Lease lease(*this);
+    sqlite3_stmt* s = (*lease).best;
+    sqlite3_bind_int(s, 1, lingua);
+    sqlite3_bind_int(s, 2, tempo);
+    sqlite3_bind_int(s, 3, count);
+    std::vector<TableRow> rows;
+    if (!readRows(s, 1, rows)) return std::nullopt;
+    return rows;
+}
+
+std::optional<Neighbourhood> SqliteStore::around(std::int64_t id, int span) {
+    Lease lease(*this);
+    Reader& r = *lease;
+    // One snapshot for the place and the rows, so that they agree.
+    if (sqlite3_exec(r.db, "BEGIN", nullptr, nullptr, nullptr) != SQLITE_OK) return std::nullopt;
+    std::optional<Neighbourhood> result;
+    sqlite3_bind_int64(r.where, 1, id);
+    if (sqlite3_step(r.where) == SQLITE_ROW) {
+        const int lingua = sqlite3_column_int(r.where, 0), tempo = sqlite3_column_int(r.where, 1);
+        sqlite3_bind_int(r.ahead, 1, lingua);
+        sqlite3_bind_int(r.ahead, 2, tempo);
+        sqlite3_bind_int(r.ahead, 3, sqlite3_column_int(r.where, 2));
+        sqlite3_bind_int64(r.ahead, 4, id);
+        if (sqlite3_step(r.ahead) == SQLITE_ROW) {
+            Neighbourhood found;
+            found.posto = sqlite3_column_int(r.ahead, 0) + 1;
+            const int first = std::max(1, found.posto - span);
+            sqlite3_bind_int(r.window, 1, lingua);
+            sqlite3_bind_int(r.window, 2, tempo);
+            sqlite3_bind_int(r.window, 3, found.posto + span - first + 1);
+            sqlite3_bind_int(r.window, 4, first - 1);
+            if (readRows(r.window, first, found.righe)) result = std::move(found);
+        }
+        sqlite3_reset(r.ahead);
+    }
+    sqlite3_reset(r.where);
+    sqlite3_exec(r.db, "COMMIT", nullptr, nullptr, nullptr);
+    return result;
+}
+
+} // namespace griglione
