@@ -70,6 +70,7 @@ void DictionaryEditorWindow::buildControls() {
         m_words[i] = new QStringListModel(this);
         auto* list = new QComboBox(this);
         list->setObjectName(QStringLiteral("Combo1_%1").arg(i));
+        list->setAccessibleName(tr("Parole di %1 caratteri").arg(i + 3));
         list->setGeometry(x, y + 20, 135, 24);
         // Thousands of words: measuring each one for the list's width would take seconds.
         list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

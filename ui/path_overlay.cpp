@@ -19,6 +19,11 @@ void PathOverlay::setLineWidth(int pixels) {
     update();
 }
 
+void PathOverlay::setStartCell(int cell) {
+    m_start = cell;
+    update();
+}
+
 void PathOverlay::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -40,6 +45,17 @@ void PathOverlay::paintEvent(QPaintEvent*) {
         if (marks.line1Visible) draw(marks.line1);
         draw(marks.line2);
     }
+    if (m_start >= 0 && m_start < kCells) drawStartRing(painter);
+}
+
+// A ring about the first die's dot, wider than the line, in the line's colour.
+void PathOverlay::drawStartRing(QPainter& painter) const {
+    const QPointF centre(((m_start % kBoardSide) + 0.5) * m_cell.width(),
+                         ((m_start / kBoardSide) + 0.5) * m_cell.height());
+    const double radius = m_lineWidth / 2.0 + 6;
+    painter.setPen(QPen(QColor(0, 0, 128), 3));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(centre, radius, radius);
 }
 
 } // namespace griglione

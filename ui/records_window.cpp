@@ -80,6 +80,7 @@ void RecordsWindow::buildControls() {
     m_table->setObjectName("List1");
     m_table->setGeometry(twipsRect(420, 1410, 3585, 3180));
     m_table->setFont(courier(8));
+    m_table->setAccessibleName(tr("Tabella records"));
 
     auto* close = new QPushButton("&Chiudi", this);
     close->setObjectName("Command1");
@@ -100,11 +101,13 @@ void RecordsWindow::buildControls() {
     auto* emailCaption =
         label(this, "Label4", "Mia E-Mail:", twipsRect(420, 5190, 825, 255), Qt::white);
     m_email = textBox(this, "Text2", "", twipsRect(1260, 5160, 2520, 285));
+    m_email->setAccessibleName(tr("Mia E-Mail"));
     m_email->setPlaceholderText("nome@dominio.it");
     auto* notesCaption =
         label(this, "Label6", "Note sul punteggio:", twipsRect(450, 5490, 795, 435), Qt::white);
     notesCaption->setWordWrap(true);
     m_notes = textBox(this, "Text1", "Sono il migliore", twipsRect(1260, 5580, 2520, 285));
+    m_notes->setAccessibleName(tr("Note sul punteggio"));
     m_link = label(this, "Label7", "Registra record in Internet", twipsRect(3870, 5580, 2250, 285),
                    kLinkYellow);
     QFont underlined = m_link->font();

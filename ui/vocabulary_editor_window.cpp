@@ -55,6 +55,7 @@ VocabularyEditorWindow::VocabularyEditorWindow(EditorContext context, QWidget* p
     m_words->setObjectName("List1");
     m_words->setGeometry(12, 30, 190, 296);
     m_words->setSortingEnabled(true);
+    m_words->setAccessibleName(tr("Parole già inserite"));
 
     m_hint = label(this, "Label2",
                    "Cliccare su <Nuova parola> per aggiungere una parola al vocabolario "
