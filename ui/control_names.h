@@ -1,5 +1,5 @@
-// What screen readers call the main window's controls, and the labels that show a value, which
-// are named by what the value is as well as by the value.
+// What screen readers call the main window's controls, and the labels of any window that show a
+// value, named by what the value is as well as by the value.
 #pragma once
 
 class QLabel;

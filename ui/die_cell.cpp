@@ -40,8 +40,9 @@ void DieCell::setPicture(const QPixmap& picture) {
 }
 
 void DieCell::setLetter(char letter) {
-    setAccessibleName(letter ? QString(QChar::fromLatin1(letter))
-                             : QCoreApplication::translate("DieCell", "vuoto"));
+    setAccessibleName(letter >= 'A' && letter <= 'Z'
+                          ? QString(QChar::fromLatin1(letter))
+                          : QCoreApplication::translate("DieCell", "vuoto"));
 }
 
 void DieCell::paintEvent(QPaintEvent*) {

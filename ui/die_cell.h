@@ -14,7 +14,7 @@ public:
 
     void setPicture(const QPixmap& picture);
 
-    // The letter the die shows, for screen readers ('\0' for a blank die).
+    // The letter the die shows, for screen readers; anything but A–Z is a blank die.
     void setLetter(char letter);
     int index() const { return m_index; }
 

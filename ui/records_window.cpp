@@ -3,6 +3,7 @@
 #include "core/ansi_text.h"
 #include "platform/fonts.h"
 #include "ui/colours.h"
+#include "ui/control_names.h"
 #include "ui/link_cursor.h"
 #include "ui/message_window.h"
 #include "ui/twips.h"
@@ -72,6 +73,7 @@ void RecordsWindow::buildControls() {
         ->setFont(tahoma(14, true));
     m_first = label(this, "Label1", "Brivo The Best", twipsRect(390, 555, 3600, 375), Qt::white);
     m_first->setFont(tahoma(12, true));
+    m_first->setAccessibleDescription(tr("Primo in classifica"));
     m_theBest = label(this, "Label2", "The Best", twipsRect(390, 930, 1500, 375), kGold);
     m_theBest->setFont(tahoma(12, true));
     m_theBest->installEventFilter(this);
@@ -132,7 +134,7 @@ void RecordsWindow::buildControls() {
 void RecordsWindow::fill(const TabellaRecord& table) {
     for (const std::string& line : table.righe)
         m_table->addItem(QString::fromStdString(fromAnsi(line)));
-    m_first->setText(QString::fromStdString(fromAnsi(table.primo)));
+    setValueText(m_first, QString::fromStdString(fromAnsi(table.primo)));
     m_table->setCurrentRow(table.selezione);
     for (QWidget* w : m_submission)
         w->setEnabled(table.invioPossibile);

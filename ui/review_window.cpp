@@ -68,7 +68,7 @@ void ReviewWindow::load(const GameState& state, const std::filesystem::path& fol
     for (int n = 0; n < kCells; ++n) {
         const auto file = resolveFileName(folder, state.immagineCella[n]);
         m_cells[n]->setPicture(QPixmap(QString::fromStdString(file.string())));
-        m_cells[n]->setLetter(m_letters[n] >= 'A' && m_letters[n] <= 'Z' ? m_letters[n] : '\0');
+        m_cells[n]->setLetter(m_letters[n]);
     }
     m_overlay->setLineWidth(state.spessoreLinea + 5);
     m_filter = -1;

@@ -65,6 +65,7 @@ VocabularyEditorWindow::VocabularyEditorWindow(EditorContext context, QWidget* p
     m_prompt = label(this, "Label1", "Digita nuova parola:", {218, 30, 200, 18});
     m_entry = new QLineEdit(this);
     m_entry->setObjectName("Text1");
+    m_entry->setAccessibleName(tr("Digita nuova parola"));
     m_entry->setGeometry(218, 50, 200, 24);
     m_entry->setMaxLength(10);
     m_entry->installEventFilter(this);
