@@ -3,6 +3,7 @@
 #include "board/board_game.h"
 #include "core/ansi_text.h"
 
+#include <QDialog>
 #include <QKeyEvent>
 #include <QWidget>
 
@@ -32,15 +33,15 @@ bool BoardKeys::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress || !m_matchRunning())
         return QObject::eventFilter(watched, event);
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (key.key() == Qt::Key_Backspace && key.modifiers() == Qt::NoModifier) {
+    const bool back = key.key() == Qt::Key_Backspace && key.modifiers() == Qt::NoModifier;
+    const char letter = back ? '\0' : typedLetter(key);
+    if (!back && !letter) return QObject::eventFilter(watched, event);
+    if (auto* message = qobject_cast<QDialog*>(watched)) message->close();
+    if (back)
         m_board.takeBack(true);
-        return true;
-    }
-    if (const char letter = typedLetter(key)) {
+    else
         m_board.typeLetter(letter, true);
-        return true;
-    }
-    return QObject::eventFilter(watched, event);
+    return true;
 }
 
 } // namespace griglione

@@ -1,6 +1,7 @@
 // The keys that trace a word without the mouse: a letter extends the word along the dice,
 // Backspace takes back its last letter. They work from every control of the main window they
-// watch (the dice, the buttons, the word lists), never from the player's name box.
+// watch (the dice, the buttons, the word lists), never from the player's name box, and from a
+// message that does not block, which they then close: the player has gone on to the next word.
 #pragma once
 
 #include <QObject>

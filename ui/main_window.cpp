@@ -110,14 +110,7 @@ MainWindow::MainWindow(Services services)
         EditorContext{m_state, m_dictionary, m_files, m_services.alerts, askOkCancel,
                       m_services.yield, [this] { m_messages.chiudi(); }, m_services.terminate,
                       m_services.folder},
-        [this] {
-            m_board.azzeraParola();
-            m_board.lanciaDadi(false);
-            m_state.secondiTrascorsi = 0;
-            m_timer1->stop();
-            m_timer2->stop();
-        },
-        [this] { nuovaPartita(); }, this);
+        [this] { m_match->abandon(); }, [this] { nuovaPartita(); }, this);
     connect(m_menu.vocabolario, &QAction::triggered, this, [this] { m_editors->openVocabulary(); });
     connect(m_menu.vocabolarioPrincipale, &QAction::triggered, this,
             [this] { m_editors->openDictionary(); });
@@ -128,6 +121,7 @@ MainWindow::~MainWindow() = default;
 void MainWindow::buildControls() {
     m_keys = new BoardKeys(
         m_board, [this] { return m_timer1->isActive(); }, this);
+    m_messages.setKeyWatcher(m_keys);
     auto* area = new QWidget(this);
     area->setObjectName("client");
     area->setAutoFillBackground(true);
@@ -333,13 +327,6 @@ QPixmap MainWindow::picture(const std::string& name) {
     return *it;
 }
 
-void MainWindow::syncList(QListWidget* list, const std::vector<std::string>& words) {
-    if (static_cast<std::size_t>(list->count()) > words.size()) list->clear();
-    for (std::size_t i = static_cast<std::size_t>(list->count()); i < words.size(); ++i)
-        list->addItem(QString::fromStdString(words[i]));
-    if (list->count() > 0) list->setCurrentRow(list->count() - 1);
-}
-
 void MainWindow::changed(Aspect aspect) {
     switch (aspect) {
     case Aspect::Board:
@@ -355,10 +342,10 @@ void MainWindow::changed(Aspect aspect) {
         m_pathOverlay->setLineWidth(m_state.spessoreLinea + 5);
         break;
     case Aspect::PlayerWords:
-        syncList(m_playerWords, m_state.paroleGiocatore);
+        showWords(m_playerWords, m_state.paroleGiocatore);
         break;
     case Aspect::CpuWords:
-        syncList(m_cpuWords, m_state.paroleCPU);
+        showWords(m_cpuWords, m_state.paroleCPU);
         break;
     case Aspect::Scores:
         setValueText(m_playerScore, QString::number(m_state.puntiGiocatore));

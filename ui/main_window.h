@@ -94,7 +94,6 @@ private:
     void showRules();
     void quit();
     QPixmap picture(const std::string& name);
-    void syncList(QListWidget* list, const std::vector<std::string>& words);
 
     Services m_services;
     GameState m_state;

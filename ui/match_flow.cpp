@@ -84,6 +84,14 @@ void MatchFlow::endOfMatch() {
     m_state.secondiTrascorsi = 0;
 }
 
+void MatchFlow::abandon() {
+    m_board.azzeraParola();
+    m_board.lanciaDadi(false);
+    m_state.secondiTrascorsi = 0;
+    m_timer1.stop();
+    m_timer2.stop();
+}
+
 void MatchFlow::diePressed(int n, int button) {
     if (m_board.press(n, button, m_timer1.isActive()) == PressResult::StartMatch) {
         startPartita();

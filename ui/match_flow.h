@@ -49,6 +49,8 @@ public:
     void restartAfterSettingChange();
     void clockTick();
     void diePressed(int n, int button);
+    // Before a vocabulary editor opens: the match is dropped for the blank board, clock stopped.
+    void abandon();
 
 private:
     void endOfMatch();

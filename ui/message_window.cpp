@@ -154,6 +154,7 @@ void MessageHost::mostraMessaggio(const Messaggio& messaggio, bool modal) {
     if (modal) {
         m_window->exec();
     } else {
+        if (m_keyWatcher) m_window->installEventFilter(m_keyWatcher);
         m_window->show();
     }
 }

@@ -82,6 +82,12 @@ private slots:
         QCOMPARE(texts(game->get<QListWidget>("List1")), QStringList("casa"));
         QCOMPARE(text("Label10"), QString("320"));
         QCOMPARE(game->get("Label10")->accessibleName(), QString("I tuoi punti: 320"));
+        // A letter typed on the message that follows closes it and starts the next word.
+        QTest::keyClick(game->window->messages().window(), Qt::Key_C);
+        QTRY_VERIFY(!game->window->messages().window());
+        QCOMPARE(text("Label1"), QString("C"));
+        QApplication::setActiveWindow(game->window.get()); // as the window manager does
+        key(Qt::Key_Escape);
         // The arrows walk the dice, Space presses one, the menu key turns it; the name box
         // keeps its letters.
         key(Qt::Key_Right);
