@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace griglione {
 
 PathOverlay::PathOverlay(const Path& path, QSize cellSize, QWidget* parent)
@@ -48,12 +50,12 @@ void PathOverlay::paintEvent(QPaintEvent*) {
     if (m_start >= 0 && m_start < kCells) drawStartRing(painter);
 }
 
-// A ring about the first die's dot, wider than the line, in the line's colour.
+// A ring about the first die's dot, well wider than the line, in the line's colour.
 void PathOverlay::drawStartRing(QPainter& painter) const {
     const QPointF centre(((m_start % kBoardSide) + 0.5) * m_cell.width(),
                          ((m_start / kBoardSide) + 0.5) * m_cell.height());
-    const double radius = m_lineWidth / 2.0 + 6;
-    painter.setPen(QPen(QColor(0, 0, 128), 3));
+    const double radius = std::max(m_lineWidth / 2.0 + 8, m_cell.width() * 0.32);
+    painter.setPen(QPen(QColor(0, 0, 128), 4));
     painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(centre, radius, radius);
 }
