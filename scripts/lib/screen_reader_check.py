@@ -7,6 +7,7 @@ import sys
 import time
 
 import pyatspi
+from gi.repository import GLib
 
 WORK = sys.argv[1]
 QUICK = "--quick" in sys.argv[2:]
@@ -157,12 +158,35 @@ def dice(main):
     return [found.get(n, "") for n in range(25)]
 
 
+heard = []  # (event type, name) of the notifications the bus reported
+
+
+def listen(event):
+    if event.source is not None and event.source.getRole() == pyatspi.ROLE_NOTIFICATION:
+        heard.append((event.type, event.source.name or ""))
+
+
+def pump(seconds=1.0):
+    """Lets the bus deliver its events to the listener."""
+    end = time.time() + seconds
+    context = GLib.MainContext.default()
+    while time.time() < end:
+        while context.iteration(False):
+            pass
+        time.sleep(0.05)
+
+
 def expect_notice(main, start):
+    pump()
+    if not any(kind.startswith("object:state-changed:showing") and name.startswith(start)
+               for kind, name in heard):
+        problems.append(f"the bus reported no notification starting {start!r}")
     notice = find(main, lambda a: a.getRole() == pyatspi.ROLE_NOTIFICATION)
     if notice is None or not notice.name.startswith(start) or not showing(notice):
         problems.append(f"no announcement starting {start!r}")
     else:
         print(f"\nannounced: {notice.name!r}")
+        print("events:", "; ".join(f"{kind} {name[:30]!r}" for kind, name in heard))
 
 
 def main():
@@ -193,6 +217,7 @@ def main():
     word = find(main_window, lambda a: (a.name or "").startswith("Parola composta:"))
     if word is None or word.name != f"Parola composta: {letters[0]}{letters[1]}":
         problems.append("the typed word is not read as 'Parola composta: ...'")
+    pyatspi.Registry.registerEventListener(listen, "object:state-changed:showing")
     key("Return")
     show("Il Griglione - Parola troppo corta!")
     expect_notice(main_window, "Parola troppo corta!")
