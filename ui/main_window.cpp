@@ -5,7 +5,6 @@
 #include "core/atomic_file.h"
 #include "core/file_names.h"
 #include "core/levels.h"
-#include "core/match_clock.h"
 #include "platform/fonts.h"
 #include "ui/alert_boxes.h"
 #include "ui/board_keys.h"
