@@ -30,6 +30,8 @@ void BoardGame::azzeraParola() {
     m_state.parolaComposta.clear();
     m_path.hideAll();
     m_state.cellaUsata.fill(false);
+    m_typed.clear();
+    m_traced.clear();
     m_view.changed(Aspect::Word);
     m_view.changed(Aspect::Path);
     m_view.changed(Aspect::TimeBar);
@@ -79,9 +81,59 @@ PressResult BoardGame::press(int n, int button, bool matchRunning) {
     }
     m_state.parolaComposta += letteraCella(m_state, n);
     m_state.ultimaCella = static_cast<std::int16_t>(n);
+    m_traced.push_back(n);
+    m_typed.follow(letters(), m_traced);
     m_view.changed(Aspect::Path);
     m_view.changed(Aspect::Word);
     return PressResult::Selected;
+}
+
+CellLetters BoardGame::letters() const {
+    CellLetters all{};
+    for (int n = 0; n < kCells; ++n)
+        all[n] = letteraCella(m_state, n);
+    return all;
+}
+
+PressResult BoardGame::typeLetter(char letter, bool matchRunning) {
+    if (!matchRunning) return PressResult::Refused;
+    if (!m_typed.type(letters(), letter)) {
+        m_sounds.beep();
+        return PressResult::Refused;
+    }
+    m_sounds.suona("SND0002.wav");
+    showTrace(m_typed.shown());
+    return PressResult::Selected;
+}
+
+PressResult BoardGame::takeBack(bool matchRunning) {
+    if (!matchRunning) return PressResult::Refused;
+    if (!m_typed.back()) {
+        m_sounds.beep();
+        return PressResult::Refused;
+    }
+    showTrace(m_typed.shown());
+    return PressResult::Selected;
+}
+
+// Draws the word along `cells` afresh; the newest die's mark shows, whatever its blink was.
+void BoardGame::showTrace(const std::vector<int>& cells) {
+    m_path.hideAll();
+    m_state.cellaUsata.fill(false);
+    m_state.parolaComposta.clear();
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        if (i == 0)
+            m_path.start(cells[0]);
+        else
+            m_path.connect(cells[i - 1], cells[i]);
+        m_state.cellaUsata[cells[i]] = true;
+        m_state.parolaComposta += letteraCella(m_state, cells[i]);
+    }
+    m_traced = cells;
+    m_state.ultimaCella = static_cast<std::int16_t>(cells.empty() ? -1 : cells.back());
+    if (!cells.empty()) m_path.showNewest(cells.back());
+    m_view.changed(Aspect::Path);
+    m_view.changed(Aspect::Word);
 }
 
 void BoardGame::blink() {

@@ -1,8 +1,10 @@
-// The board in play: dealing, tracing a word with presses on the dice, turning a die, clearing.
+// The board in play: dealing, tracing a word with presses on the dice or typed letters, turning a
+// die, clearing.
 #pragma once
 
 #include "board/dealer.h"
 #include "board/path.h"
+#include "board/typed_trace.h"
 #include "core/game_state.h"
 #include "core/ports.h"
 
@@ -35,6 +37,14 @@ public:
 
     PressResult press(int n, int button, bool matchRunning);
 
+    // A letter typed while a match runs: the word follows a path of touching dice that spells
+    // every letter typed, drawn as if its dice had been pressed. Refused with a beep, the word
+    // unchanged, when no path can take it. Presses go on from the path shown.
+    PressResult typeLetter(char letter, bool matchRunning);
+
+    // Backspace: the last letter goes, and the paths the word had before come back.
+    PressResult takeBack(bool matchRunning);
+
     // Once a second while a word is traced: the newest die's incoming segment blinks.
     void blink();
 
@@ -42,6 +52,8 @@ public:
 
 private:
     void turnDie(int n);
+    CellLetters letters() const;
+    void showTrace(const std::vector<int>& cells);
 
     GameState& m_state;
     Dealer& m_dealer;
@@ -49,6 +61,8 @@ private:
     Messages& m_messages;
     GameView& m_view;
     Path m_path;
+    TypedTrace m_typed;
+    std::vector<int> m_traced; // the dice of the word, in order
 };
 
 } // namespace griglione

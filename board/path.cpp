@@ -67,6 +67,10 @@ void Path::toggleBlink(int n) {
     m_marks[n].line1Visible = !m_marks[n].line1Visible;
 }
 
+void Path::showNewest(int n) {
+    m_marks[n].line1Visible = true;
+}
+
 void Path::hideAll() {
     for (CellMarks& m : m_marks) {
         m.line1 = {};

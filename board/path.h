@@ -53,6 +53,7 @@ public:
     void start(int n);          // the first die: a dot in its centre
     void connect(int p, int n); // n follows p, which it touches
     void toggleBlink(int n);    // the newest die's incoming segment blinks
+    void showNewest(int n);     // ends a blink: the incoming segment shows
     void hideAll();             // moves every segment out of sight; blink flags stay
 
 private:

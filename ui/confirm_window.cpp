@@ -55,6 +55,7 @@ ConfirmWindow::ConfirmWindow(const std::string& parola, const std::string& nomeD
     auto* rulesField = new QTextEdit(this);
     rulesField->setObjectName("Text1");
     rulesField->setReadOnly(true);
+    rulesField->setAccessibleName(tr("Parole ammesse"));
     rulesField->setPlainText(QString::fromStdString(rules).replace("\r\n", "\n"));
     layout->addWidget(rulesField, 1);
 

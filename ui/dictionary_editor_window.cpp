@@ -5,6 +5,7 @@
 #include "dictionary/vocabulary_editing.h"
 #include "platform/fonts.h"
 #include "ui/colours.h"
+#include "ui/control_names.h"
 #include "ui/message_window.h"
 #include "ui/progress_box.h"
 
@@ -70,6 +71,7 @@ void DictionaryEditorWindow::buildControls() {
         m_words[i] = new QStringListModel(this);
         auto* list = new QComboBox(this);
         list->setObjectName(QStringLiteral("Combo1_%1").arg(i));
+        list->setAccessibleName(tr("Parole di %1 caratteri").arg(i + 3));
         list->setGeometry(x, y + 20, 135, 24);
         // Thousands of words: measuring each one for the list's width would take seconds.
         list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -89,11 +91,13 @@ void DictionaryEditorWindow::buildControls() {
     m_totalLabel = label(this, "Label4", {}, {112, 228, 90, 20});
     m_totalLabel->setFont(tahoma(8.25, true));
     m_status = label(this, "Label3", "In corso la lettura del dizionario ...", {12, 252, 580, 20});
+    m_status->setAccessibleDescription(tr("Stato del dizionario"));
     m_progress = new ProgressBox(this);
     m_progress->setGeometry(12, 276, 580, 16);
 
     m_entry = new QLineEdit(this);
     m_entry->setObjectName("Text1");
+    m_entry->setAccessibleName(tr("Nuova parola"));
     m_entry->setGeometry(12, 306, 135, 24);
     m_entry->setMaxLength(10);
     m_entry->installEventFilter(this);
@@ -165,7 +169,7 @@ void DictionaryEditorWindow::finishLoading() {
     QApplication::restoreOverrideCursor();
     for (QPushButton* b : {m_add, m_rebuild, m_delete})
         b->setEnabled(true);
-    m_status->clear();
+    setValueText(m_status, {});
     m_current = 0;
     m_loaded = true;
     emit loaded();
@@ -249,7 +253,7 @@ void DictionaryEditorWindow::ricreaDizionario() {
     }
     m_rebuilding = true;
     m_exit->setEnabled(false);
-    m_status->setText("In corso la scrittura del dizionario ...");
+    setValueText(m_status, "In corso la scrittura del dizionario ...");
     m_context.yield();
     for (QLabel* count : m_counts)
         count->clear();
@@ -272,10 +276,10 @@ void DictionaryEditorWindow::ricreaDizionario() {
     const std::string notice =
         rebuiltNotice(path, "Il Griglione - Dizionario " + m_context.state.nomeDizionario);
     if (rebuildDictionary(m_context.folder, m_context.state.numDizionario, notice, words)) {
-        m_status->setText("Dizionario riscritto correttamente");
+        setValueText(m_status, "Dizionario riscritto correttamente");
     } else {
         // The old file is still whole and in place; the lists keep the changes for another try.
-        m_status->clear();
+        setValueText(m_status, {});
         m_context.alerts.avviso("Errore non e' possibile scrivere sul disco nella posizione: " +
                                 std::filesystem::absolute(m_context.folder).string());
     }

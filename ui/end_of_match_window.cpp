@@ -63,6 +63,7 @@ EndOfMatchWindow::EndOfMatchWindow(QTimer& matchClock, QTimer& opponentClock, So
     m_history->setObjectName("List1");
     m_history->setGeometry(twipsRect(600, 1110, 5295, 1980));
     m_history->setFont(courier(9));
+    m_history->setAccessibleName(tr("Partite giocate"));
 
     label(this, "Label5", "STATISTICHE", 660, 3090, 2000, 300)->setFont(tahoma(8.25, true));
     const char* headings[] = {"Vinte", "Perse", "Pareggi"};
@@ -95,6 +96,7 @@ EndOfMatchWindow::EndOfMatchWindow(QTimer& matchClock, QTimer& opponentClock, So
 
     // Right of the statistics, the one free corner of the window.
     m_picture = label(this, "Picture3", "", 5430, 3090, 1000, 1200);
+    m_picture->setAccessibleName(tr("Il Griglione"));
     m_picture->setAlignment(Qt::AlignCenter);
 
     m_matchClock.stop();

@@ -65,6 +65,7 @@ InformationWindow::InformationWindow(const QPixmap& picture, MessageHost& messag
     setAttribute(Qt::WA_DeleteOnClose);
     // A blank, not an empty title: window managers show the program's name for an empty one.
     setWindowTitle(" ");
+    setAccessibleName(tr("Informazioni su 'Il Griglione'"));
     setFixedSize(px(9000), px(5850));
     setAutoFillBackground(true);
     QPalette palette = this->palette();
@@ -74,6 +75,8 @@ InformationWindow::InformationWindow(const QPixmap& picture, MessageHost& messag
 
     m_picture = new QLabel(this);
     m_picture->setObjectName("Picture2");
+    m_picture->setAccessibleName(tr("Il Griglione"));
+    m_picture->setAccessibleDescription(tr("Manda una mail all'autore"));
     m_picture->setGeometry(24, 24, 160, 84);
     m_picture->setPixmap(picture);
     m_picture->setCursor(iconCursor());
@@ -110,6 +113,7 @@ InformationWindow::InformationWindow(const QPixmap& picture, MessageHost& messag
     flag->setGeometry(24, 348, 36, 24);
     flag->setPixmap(italianFlag(flag->size()));
     flag->setToolTip("Software Italiano");
+    flag->setAccessibleName(tr("Software Italiano"));
 
     auto* ok = new QPushButton("&OK", this);
     ok->setObjectName("Command3d1");

@@ -5,20 +5,20 @@
 #include "core/atomic_file.h"
 #include "core/file_names.h"
 #include "core/levels.h"
-#include "core/match_clock.h"
 #include "platform/fonts.h"
 #include "ui/alert_boxes.h"
+#include "ui/board_keys.h"
 #include "ui/colours.h"
+#include "ui/control_names.h"
 #include "ui/die_cell.h"
 #include "ui/editor_flow.h"
-#include "ui/end_of_match_window.h"
 #include "ui/help_links.h"
 #include "ui/main_window_controls.h"
+#include "ui/match_flow.h"
 #include "ui/name_validator.h"
 #include "ui/options_flow.h"
 #include "ui/path_overlay.h"
 #include "ui/records_flow.h"
-#include "ui/review_window.h"
 #include "ui/time_bar.h"
 #include "ui/twips.h"
 
@@ -73,7 +73,7 @@ MainWindow::MainWindow(Services services)
     m_timer1 = new QTimer(this);
     m_timer1->setObjectName("Timer1");
     m_timer1->setInterval(1000);
-    connect(m_timer1, &QTimer::timeout, this, &MainWindow::clockTick);
+    connect(m_timer1, &QTimer::timeout, this, [this] { m_match->clockTick(); });
     m_timer2 = new QTimer(this);
     m_timer2->setObjectName("Timer2");
     m_timer2->setInterval(200);
@@ -90,9 +90,18 @@ MainWindow::MainWindow(Services services)
     m_options = std::make_unique<OptionsFlow>(
         m_state, m_menu, *m_timer2, *m_playerName, m_services.alerts, m_services.folder,
         OptionsFlow::Hooks{[this] { aggMenudiz(); }, [this] { settaSpessLinea(); },
-                           [this] { restartAfterSettingChange(); }});
+                           [this] { m_match->restartAfterSettingChange(); }});
     m_records = std::make_unique<RecordsFlow>(*this, m_state, *m_timer1, *m_timer2, m_messages,
                                               m_services, [this] { return m_playerName->text(); });
+    m_match = std::make_unique<MatchFlow>(
+        *this, m_state, m_board, *m_timer1, *m_timer2, m_sounds, m_messages, *m_options, *m_records,
+        m_services,
+        MatchFlow::Screen{
+            *m_timeBar, *m_seconds, [this] { return m_playerName->text(); },
+            [this] {
+                return std::pair{m_playerScore->text().toInt(), m_cpuScore->text().toInt()};
+            },
+            [this] { return picture("griglione.gif"); }, [this] { focusBoard(); }});
     wireMenu();
     new HelpLinks(this, m_menu, m_services.outside, m_services.alerts, m_messages,
                   m_services.folder);
@@ -100,14 +109,7 @@ MainWindow::MainWindow(Services services)
         EditorContext{m_state, m_dictionary, m_files, m_services.alerts, askOkCancel,
                       m_services.yield, [this] { m_messages.chiudi(); }, m_services.terminate,
                       m_services.folder},
-        [this] {
-            m_board.azzeraParola();
-            m_board.lanciaDadi(false);
-            m_state.secondiTrascorsi = 0;
-            m_timer1->stop();
-            m_timer2->stop();
-        },
-        [this] { nuovaPartita(); }, this);
+        [this] { m_match->abandon(); }, [this] { nuovaPartita(); }, this);
     connect(m_menu.vocabolario, &QAction::triggered, this, [this] { m_editors->openVocabulary(); });
     connect(m_menu.vocabolarioPrincipale, &QAction::triggered, this,
             [this] { m_editors->openDictionary(); });
@@ -116,6 +118,9 @@ MainWindow::MainWindow(Services services)
 MainWindow::~MainWindow() = default;
 
 void MainWindow::buildControls() {
+    m_keys = new BoardKeys(
+        m_board, [this] { return m_timer1->isActive(); }, this);
+    m_messages.setKeyWatcher(m_keys);
     auto* area = new QWidget(this);
     area->setObjectName("client");
     area->setAutoFillBackground(true);
@@ -148,7 +153,9 @@ void MainWindow::buildControls() {
         auto* cell = new DieCell(n, area);
         cell->setGeometry(
             cell0.translated((n % kBoardSide) * cell0.width(), (n / kBoardSide) * cell0.height()));
-        connect(cell, &DieCell::pressed, this, &MainWindow::diePressed);
+        connect(cell, &DieCell::pressed, this,
+                [this](int die, int button) { m_match->diePressed(die, button); });
+        m_keys->watch(cell);
         connect(cell, &DieCell::enterPressed, this, [this] { m_submission->inviaParola(); });
         connect(cell, &DieCell::escapePressed, this, [this] { m_board.azzera(); });
         m_cells[n] = cell;
@@ -168,6 +175,7 @@ void MainWindow::buildControls() {
         area, "Command2", "&OK", at(5340, 660, 984, 915),
         QString::fromStdString(resolveFileName(m_services.folder, "okbutton.gif").string()));
     connect(ok, &QToolButton::clicked, this, [this] { m_submission->inviaParola(); });
+    m_keys->watch(ok);
     // Alt+O belongs to the "&Opzioni" menu: shared with the button, the first press would only
     // move the focus. Enter submits the word anyway.
     ok->setShortcut(QKeySequence());
@@ -175,6 +183,7 @@ void MainWindow::buildControls() {
         area, "Command1", "&Azzera ", at(6360, 660, 984, 915),
         QString::fromStdString(resolveFileName(m_services.folder, "azzera.gif").string()));
     connect(clear, &QToolButton::clicked, this, [this] { m_board.azzera(); });
+    m_keys->watch(clear);
 
     m_clockFrame = label(area, "Label3", "", at(5310, 1695, 2025, 345), Qt::white, kRed);
     m_timeBar = new TimeBar(area);
@@ -194,6 +203,8 @@ void MainWindow::buildControls() {
     label(area, "Label9", "Tobia (CPU)", at(6300, 2505, 1050, 195), Qt::white, kDarkGrey);
     m_playerWords = wordList(area, "List1", at(5295, 2685, 1020, 1590), Qt::cyan);
     m_cpuWords = wordList(area, "List2", at(6300, 2685, 1020, 1590), QColor(192, 192, 192));
+    m_keys->watch(m_playerWords);
+    m_keys->watch(m_cpuWords);
     m_playerScore = label(area, "Label10", "0", at(5295, 4320, 555, 225), Qt::white, kBlue);
     label(area, "Label7", "Punti", at(6022, 4320, 555, 225), Qt::white, kRed);
     m_cpuScore = label(area, "Label11", "0", at(6750, 4320, 555, 225), Qt::white, kDarkGrey);
@@ -209,7 +220,8 @@ void MainWindow::buildControls() {
     m_logo->setGeometry(twipsRect(6990, 4920, 3930, 3285));
     m_logo->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 
-    // The name box comes first in the tab order, so it holds the focus when the window opens.
+    nameMainWindowControls(area);
+    // The name box holds the focus when the window opens.
     m_playerName->setFocus();
     setFixedSize(kWindowSize);
 }
@@ -275,71 +287,18 @@ void MainWindow::aggMenudiz() {
 }
 
 void MainWindow::startPartita() {
-    m_timer1->stop();
-    m_timer2->stop();
-    m_state.messaggio = startMessage(m_state, m_options->levelChecks());
-    m_messages.mostraMessaggio(m_state.messaggio, true);
+    m_match->startPartita();
 }
 
 void MainWindow::nuovaPartita() {
-    m_timer1->start();
-    m_timer2->start();
-    m_state.secondiTrascorsi = 0;
-    m_timeBar->clear();
-    m_board.lanciaDadi(true);
-    m_board.azzeraParola();
+    m_match->nuovaPartita();
 }
 
-void MainWindow::restartAfterSettingChange() {
-    startPartita();
-    m_board.lanciaDadi(true);
-    m_board.azzeraParola();
-    m_state.secondiTrascorsi = 0;
-    m_timer1->start();
-    m_timer2->start();
-}
-
-void MainWindow::clockTick() {
-    // A tick that falls due while an earlier one waits for a modal window is dropped.
-    if (m_inClockTick) return;
-    m_inClockTick = true;
-    if (countSecond(m_state)) endOfMatch();
-    if (m_state.ultimaCella >= 0) m_board.blink();
-    m_timeBar->fillTo(
-        timeBarWidth(m_timeBar->innerWidth(), m_state.tempoPartita, m_state.secondiTrascorsi));
-    m_seconds->setText(QString::fromStdString(secondsLabel(m_state.secondiTrascorsi)));
-    m_seconds->adjustSize();
-    m_inClockTick = false;
-}
-
-void MainWindow::endOfMatch() {
-    m_timer2->stop();
-    m_timer1->stop();
-    if (!m_endOfMatch) {
-        m_endOfMatch = new EndOfMatchWindow(*m_timer1, *m_timer2, m_sounds, m_messages,
-                                            m_services.terminate, this);
-        // The review is made at its first opening and then kept, like the window it opens over.
-        ReviewWindow* review = nullptr;
-        m_endOfMatch->setReviewOpener([this, review]() mutable {
-            if (!review) review = new ReviewWindow(m_endOfMatch);
-            review->showBoard(m_state, m_services.folder);
-        });
-        m_endOfMatch->setPicture(picture("griglione.gif"));
-    }
-    m_endOfMatch->hide();
-    m_endOfMatch->showResult(m_playerName->text(), m_playerScore->text().toInt(),
-                             m_cpuScore->text().toInt(), m_options->levelChecks());
-    m_records->afterMatch();
-    m_board.lanciaDadi(true);
-    m_board.azzeraParola();
-    m_state.secondiTrascorsi = 0;
-}
-
-void MainWindow::diePressed(int n, int button) {
-    if (m_board.press(n, button, m_timer1->isActive()) == PressResult::StartMatch) {
-        startPartita();
-        nuovaPartita();
-    }
+// Typing works at once: the focus goes to the board, to the die that has it last.
+void MainWindow::focusBoard() {
+    if (qobject_cast<DieCell*>(focusWidget())) return;
+    for (DieCell* cell : m_cells)
+        if (cell->focusPolicy() == Qt::StrongFocus) cell->setFocus(Qt::OtherFocusReason);
 }
 
 void MainWindow::showRules() {
@@ -367,34 +326,29 @@ QPixmap MainWindow::picture(const std::string& name) {
     return *it;
 }
 
-void MainWindow::syncList(QListWidget* list, const std::vector<std::string>& words) {
-    if (static_cast<std::size_t>(list->count()) > words.size()) list->clear();
-    for (std::size_t i = static_cast<std::size_t>(list->count()); i < words.size(); ++i)
-        list->addItem(QString::fromStdString(words[i]));
-    if (list->count() > 0) list->setCurrentRow(list->count() - 1);
-}
-
 void MainWindow::changed(Aspect aspect) {
     switch (aspect) {
     case Aspect::Board:
-        for (int n = 0; n < kCells; ++n)
+        for (int n = 0; n < kCells; ++n) {
             m_cells[n]->setPicture(picture(m_state.immagineCella[n]));
+            m_cells[n]->setLetter(letteraCella(m_state, n));
+        }
         break;
     case Aspect::Word:
-        m_word->setText(QString::fromStdString(m_state.parolaComposta));
+        setValueText(m_word, QString::fromStdString(m_state.parolaComposta));
         break;
     case Aspect::Path:
         m_pathOverlay->setLineWidth(m_state.spessoreLinea + 5);
         break;
     case Aspect::PlayerWords:
-        syncList(m_playerWords, m_state.paroleGiocatore);
+        showWords(m_playerWords, m_state.paroleGiocatore);
         break;
     case Aspect::CpuWords:
-        syncList(m_cpuWords, m_state.paroleCPU);
+        showWords(m_cpuWords, m_state.paroleCPU);
         break;
     case Aspect::Scores:
-        m_playerScore->setText(QString::number(m_state.puntiGiocatore));
-        m_cpuScore->setText(QString::number(m_state.puntiCPU));
+        setValueText(m_playerScore, QString::number(m_state.puntiGiocatore));
+        setValueText(m_cpuScore, QString::number(m_state.puntiCPU));
         break;
     case Aspect::TimeBar:
         m_timeBar->clear();

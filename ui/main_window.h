@@ -34,9 +34,10 @@ class QToolButton;
 
 namespace griglione {
 
+class BoardKeys;
 class DieCell;
 class EditorFlow;
-class EndOfMatchWindow;
+class MatchFlow;
 class PathOverlay;
 class OptionsFlow;
 class RecordsFlow;
@@ -89,14 +90,10 @@ private:
     void buildControls();
     void fitFrame(int tries);
     void wireMenu();
-    void clockTick();
-    void endOfMatch();
-    void diePressed(int n, int button);
-    void restartAfterSettingChange();
+    void focusBoard();
     void showRules();
     void quit();
     QPixmap picture(const std::string& name);
-    void syncList(QListWidget* list, const std::vector<std::string>& words);
 
     Services m_services;
     GameState m_state;
@@ -115,9 +112,9 @@ private:
     std::unique_ptr<OpponentWalk> m_opponent;
     std::unique_ptr<OptionsFlow> m_options;
     std::unique_ptr<RecordsFlow> m_records;
-    EndOfMatchWindow* m_endOfMatch = nullptr;
+    std::unique_ptr<MatchFlow> m_match;
     std::unique_ptr<EditorFlow> m_editors;
-    bool m_inClockTick = false;
+    BoardKeys* m_keys = nullptr;
 
     std::array<DieCell*, kCells> m_cells{};
     QLabel* m_word = nullptr;             // Label1

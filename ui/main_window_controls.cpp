@@ -33,6 +33,13 @@ QListWidget* wordList(QWidget* parent, const char* name, const QRect& geometry,
     return list;
 }
 
+void showWords(QListWidget* list, const std::vector<std::string>& words) {
+    if (static_cast<std::size_t>(list->count()) > words.size()) list->clear();
+    for (std::size_t i = static_cast<std::size_t>(list->count()); i < words.size(); ++i)
+        list->addItem(QString::fromStdString(words[i]));
+    if (list->count() > 0) list->setCurrentRow(list->count() - 1);
+}
+
 QToolButton* pictureButton(QWidget* parent, const char* name, const QString& text,
                            const QRect& geometry, const QString& pictureFile) {
     auto* button = new QToolButton(parent);

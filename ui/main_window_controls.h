@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <string>
+#include <vector>
 
 class QLabel;
 class QListWidget;
@@ -23,6 +24,9 @@ QLabel* label(QWidget* parent, const char* name, const QString& text, const QRec
 
 QListWidget* wordList(QWidget* parent, const char* name, const QRect& geometry,
                       const QColor& background);
+
+// Brings a word list up to `words`, which only grow during a match, and scrolls to the last.
+void showWords(QListWidget* list, const std::vector<std::string>& words);
 
 QToolButton* pictureButton(QWidget* parent, const char* name, const QString& text,
                            const QRect& geometry, const QString& pictureFile);

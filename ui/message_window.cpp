@@ -1,6 +1,7 @@
 #include "ui/message_window.h"
 
 #include "platform/fonts.h"
+#include "ui/accessibility.h"
 #include "ui/colours.h"
 #include "ui/twips.h"
 
@@ -122,6 +123,8 @@ MessageWindow::MessageWindow(const Messaggio& messaggio, QWidget* parent) : QDia
     body->setReadOnly(true);
     body->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     body->setPlainText(QString::fromStdString(messaggio.testo).replace("\r\n", "\n"));
+    body->setAccessibleName(tr("Messaggio"));
+    frame->setAccessibleName(title);
 
     auto* ok = new QPushButton("&OK", this);
     ok->setObjectName("Command3d1");
@@ -145,10 +148,13 @@ void MessageWindow::flash() {
 
 void MessageHost::mostraMessaggio(const Messaggio& messaggio, bool modal) {
     chiudi();
+    // Read out as well as shown, so a player who cannot see the window hears the outcome.
+    announce(m_parent, QString::fromStdString(messaggio.intestazione + "\n" + messaggio.testo));
     m_window = new MessageWindow(messaggio, m_parent);
     if (modal) {
         m_window->exec();
     } else {
+        if (m_keyWatcher) m_window->installEventFilter(m_keyWatcher);
         m_window->show();
     }
 }

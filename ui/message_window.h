@@ -38,11 +38,14 @@ public:
 
     void mostraMessaggio(const Messaggio& messaggio, bool modal) override;
     void chiudi();
+    // Watches the keys of every message that does not block, so typing goes on behind it.
+    void setKeyWatcher(QObject* watcher) { m_keyWatcher = watcher; }
     MessageWindow* window() const { return m_window; }
 
 private:
     QWidget* m_parent;
     QPointer<MessageWindow> m_window;
+    QObject* m_keyWatcher = nullptr;
 };
 
 // Places a window in the middle of the screen.

@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace griglione {
 
 PathOverlay::PathOverlay(const Path& path, QSize cellSize, QWidget* parent)
@@ -16,6 +18,11 @@ PathOverlay::PathOverlay(const Path& path, QSize cellSize, QWidget* parent)
 
 void PathOverlay::setLineWidth(int pixels) {
     m_lineWidth = pixels;
+    update();
+}
+
+void PathOverlay::setStartCell(int cell) {
+    m_start = cell;
     update();
 }
 
@@ -40,6 +47,17 @@ void PathOverlay::paintEvent(QPaintEvent*) {
         if (marks.line1Visible) draw(marks.line1);
         draw(marks.line2);
     }
+    if (m_start >= 0 && m_start < kCells) drawStartRing(painter);
+}
+
+// A ring about the first die's dot, well wider than the line, in the line's colour.
+void PathOverlay::drawStartRing(QPainter& painter) const {
+    const QPointF centre(((m_start % kBoardSide) + 0.5) * m_cell.width(),
+                         ((m_start / kBoardSide) + 0.5) * m_cell.height());
+    const double radius = std::max(m_lineWidth / 2.0 + 8, m_cell.width() * 0.32);
+    painter.setPen(QPen(QColor(0, 0, 128), 4));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(centre, radius, radius);
 }
 
 } // namespace griglione

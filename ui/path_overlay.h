@@ -6,6 +6,8 @@
 
 #include <QWidget>
 
+class QPainter;
+
 namespace griglione {
 
 class PathOverlay final : public QWidget {
@@ -16,13 +18,20 @@ public:
 
     void setLineWidth(int pixels);
 
+    // Rings the die a path starts from, so its direction shows; -1 for none.
+    void setStartCell(int cell);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    void drawStartRing(QPainter& painter) const;
 
 private:
     const Path& m_path;
     QSize m_cell;
     int m_lineWidth = 12;
+    int m_start = -1;
 };
 
 } // namespace griglione

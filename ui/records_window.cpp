@@ -3,6 +3,7 @@
 #include "core/ansi_text.h"
 #include "platform/fonts.h"
 #include "ui/colours.h"
+#include "ui/control_names.h"
 #include "ui/link_cursor.h"
 #include "ui/message_window.h"
 #include "ui/twips.h"
@@ -72,6 +73,7 @@ void RecordsWindow::buildControls() {
         ->setFont(tahoma(14, true));
     m_first = label(this, "Label1", "Brivo The Best", twipsRect(390, 555, 3600, 375), Qt::white);
     m_first->setFont(tahoma(12, true));
+    m_first->setAccessibleDescription(tr("Primo in classifica"));
     m_theBest = label(this, "Label2", "The Best", twipsRect(390, 930, 1500, 375), kGold);
     m_theBest->setFont(tahoma(12, true));
     m_theBest->installEventFilter(this);
@@ -80,6 +82,7 @@ void RecordsWindow::buildControls() {
     m_table->setObjectName("List1");
     m_table->setGeometry(twipsRect(420, 1410, 3585, 3180));
     m_table->setFont(courier(8));
+    m_table->setAccessibleName(tr("Tabella records"));
 
     auto* close = new QPushButton("&Chiudi", this);
     close->setObjectName("Command1");
@@ -100,11 +103,13 @@ void RecordsWindow::buildControls() {
     auto* emailCaption =
         label(this, "Label4", "Mia E-Mail:", twipsRect(420, 5190, 825, 255), Qt::white);
     m_email = textBox(this, "Text2", "", twipsRect(1260, 5160, 2520, 285));
+    m_email->setAccessibleName(tr("Mia E-Mail"));
     m_email->setPlaceholderText("nome@dominio.it");
     auto* notesCaption =
         label(this, "Label6", "Note sul punteggio:", twipsRect(450, 5490, 795, 435), Qt::white);
     notesCaption->setWordWrap(true);
     m_notes = textBox(this, "Text1", "Sono il migliore", twipsRect(1260, 5580, 2520, 285));
+    m_notes->setAccessibleName(tr("Note sul punteggio"));
     m_link = label(this, "Label7", "Registra record in Internet", twipsRect(3870, 5580, 2250, 285),
                    kLinkYellow);
     QFont underlined = m_link->font();
@@ -129,7 +134,7 @@ void RecordsWindow::buildControls() {
 void RecordsWindow::fill(const TabellaRecord& table) {
     for (const std::string& line : table.righe)
         m_table->addItem(QString::fromStdString(fromAnsi(line)));
-    m_first->setText(QString::fromStdString(fromAnsi(table.primo)));
+    setValueText(m_first, QString::fromStdString(fromAnsi(table.primo)));
     m_table->setCurrentRow(table.selezione);
     for (QWidget* w : m_submission)
         w->setEnabled(table.invioPossibile);

@@ -68,6 +68,7 @@ void ReviewWindow::load(const GameState& state, const std::filesystem::path& fol
     for (int n = 0; n < kCells; ++n) {
         const auto file = resolveFileName(folder, state.immagineCella[n]);
         m_cells[n]->setPicture(QPixmap(QString::fromStdString(file.string())));
+        m_cells[n]->setLetter(m_letters[n]);
     }
     m_overlay->setLineWidth(state.spessoreLinea + 5);
     m_filter = -1;
@@ -93,9 +94,8 @@ void ReviewWindow::buildBoard() {
         auto* cell = new DieCell(n, board);
         cell->setGeometry(4 + (n % kBoardSide) * kDie, 4 + (n / kBoardSide) * kDie, kDie, kDie);
         connect(cell, &DieCell::pressed, this, [this](int index, int) { cellPressed(index); });
-        // From the keyboard: Tab reaches the dice, Enter filters as a click does.
-        cell->setFocusPolicy(Qt::StrongFocus);
-        cell->installEventFilter(this);
+        // From the keyboard: Tab reaches the dice, the arrows move between them, Enter and
+        // Space filter as a click does.
         connect(cell, &DieCell::enterPressed, this, [this, n] { cellPressed(n); });
         connect(cell, &DieCell::escapePressed, this, &QDialog::reject);
         m_cells[n] = cell;
@@ -107,11 +107,6 @@ void ReviewWindow::buildBoard() {
     m_marker->setStyleSheet("border: 3px solid rgb(255, 200, 0);");
     m_marker->resize(kDie, kDie);
     m_marker->hide();
-    m_focusMarker = new QWidget(board);
-    m_focusMarker->setAttribute(Qt::WA_TransparentForMouseEvents);
-    m_focusMarker->setStyleSheet("border: 2px dashed rgb(0, 0, 0);");
-    m_focusMarker->resize(kDie - 8, kDie - 8);
-    m_focusMarker->hide();
     m_overlay = new PathOverlay(m_path, QSize(kDie, kDie), board);
     m_overlay->move(4, 4);
 
@@ -123,7 +118,8 @@ void ReviewWindow::buildBoard() {
 }
 
 void ReviewWindow::buildLists() {
-    const char* listNames[] = {"List1", "List2", "List3"};
+    const char* objectNames[] = {"List1", "List2", "List3"};
+    const QString listNames[] = {tr("Le tue parole"), tr("Parole della CPU"), tr("Parole mancate")};
     const char* headingNames[] = {"Label2", "Label3", "Label4"};
     for (std::size_t i = 0; i < 3; ++i) {
         const int left = kListsLeft + static_cast<int>(i) * (kListWidth + kListGap);
@@ -131,10 +127,11 @@ void ReviewWindow::buildLists() {
         m_headings[i]->setObjectName(headingNames[i]);
         m_headings[i]->setGeometry(left, kBoardTop - 4, kListWidth, 36);
         m_lists[i] = new QListWidget(this);
-        m_lists[i]->setObjectName(listNames[i]);
+        m_lists[i]->setObjectName(objectNames[i]);
         m_lists[i]->setGeometry(left, kBoardTop + 34, kListWidth, kBoardSide * kDie - 30);
         m_lists[i]->setFont(courier(9));
         m_headings[i]->setBuddy(m_lists[i]);
+        m_lists[i]->setAccessibleName(listNames[i]);
         connect(m_lists[i], &QListWidget::currentRowChanged, this,
                 [this, i](int row) { wordChosen(i, row); });
     }
@@ -184,15 +181,6 @@ void ReviewWindow::showWords() {
     drawPath({});
 }
 
-bool ReviewWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
-        auto* cell = static_cast<QWidget*>(watched);
-        m_focusMarker->move(cell->pos() + QPoint(4, 4));
-        m_focusMarker->setVisible(event->type() == QEvent::FocusIn);
-    }
-    return QDialog::eventFilter(watched, event);
-}
-
 void ReviewWindow::cellPressed(int cell) {
     m_filter = m_filter == cell ? -1 : cell;
     showWords();
@@ -227,7 +215,7 @@ void ReviewWindow::drawPath(const std::vector<int>& path) {
         else
             m_path.connect(path[i - 1], path[i]);
     }
-    m_overlay->update();
+    m_overlay->setStartCell(path.empty() ? -1 : path.front());
 }
 
 } // namespace griglione

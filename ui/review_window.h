@@ -34,9 +34,6 @@ public:
     // `load`, then the review modally over its parent; returns when it is closed.
     void showBoard(const GameState& state, const std::filesystem::path& folder);
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     void buildBoard();
     void buildLists();
@@ -51,8 +48,7 @@ private:
     Path m_path;
     std::array<DieCell*, kCells> m_cells{};
     PathOverlay* m_overlay = nullptr;
-    QWidget* m_marker = nullptr;      // the frame around the filtering die
-    QWidget* m_focusMarker = nullptr; // the die that has the keyboard focus
+    QWidget* m_marker = nullptr; // the frame around the filtering die
     QPushButton* m_close = nullptr;
     QLabel* m_total = nullptr;
     QLabel* m_hint = nullptr;

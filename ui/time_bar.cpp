@@ -1,5 +1,8 @@
 #include "ui/time_bar.h"
 
+#include "ui/accessibility.h"
+
+#include <QAccessible>
 #include <QPainter>
 
 #include <algorithm>
@@ -7,17 +10,26 @@
 namespace griglione {
 
 TimeBar::TimeBar(QWidget* parent) : QWidget(parent) {
+    installAccessibility();
     setObjectName("Picture2");
 }
 
 void TimeBar::fillTo(int x) {
     m_filled = std::clamp(std::max(m_filled, x), 0, innerWidth());
     update();
+    valueChanged();
 }
 
 void TimeBar::clear() {
     m_filled = 0;
     update();
+    valueChanged();
+}
+
+// Screen readers hear the bar as a value in hundredths of the match.
+void TimeBar::valueChanged() {
+    QAccessibleValueChangeEvent event(this, innerWidth() > 0 ? m_filled * 100 / innerWidth() : 0);
+    QAccessible::updateAccessibility(&event);
 }
 
 void TimeBar::paintEvent(QPaintEvent*) {

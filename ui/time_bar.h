@@ -21,6 +21,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void valueChanged();
+
     int m_filled = 0;
 };
 

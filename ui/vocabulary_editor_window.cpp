@@ -55,6 +55,7 @@ VocabularyEditorWindow::VocabularyEditorWindow(EditorContext context, QWidget* p
     m_words->setObjectName("List1");
     m_words->setGeometry(12, 30, 190, 296);
     m_words->setSortingEnabled(true);
+    m_words->setAccessibleName(tr("Parole già inserite"));
 
     m_hint = label(this, "Label2",
                    "Cliccare su <Nuova parola> per aggiungere una parola al vocabolario "
@@ -64,6 +65,7 @@ VocabularyEditorWindow::VocabularyEditorWindow(EditorContext context, QWidget* p
     m_prompt = label(this, "Label1", "Digita nuova parola:", {218, 30, 200, 18});
     m_entry = new QLineEdit(this);
     m_entry->setObjectName("Text1");
+    m_entry->setAccessibleName(tr("Digita nuova parola"));
     m_entry->setGeometry(218, 50, 200, 24);
     m_entry->setMaxLength(10);
     m_entry->installEventFilter(this);

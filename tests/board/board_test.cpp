@@ -1,5 +1,6 @@
 #include "board/board_game.h"
 #include "board/board_layout.h"
+#include "board/typed_trace.h"
 #include "board/word_submission.h"
 #include "tests/support/board_parts.h"
 
@@ -145,6 +146,90 @@ TEST_F(TracingTest, AWordCanRunThroughAllTwentyFiveDice) {
     for (int n : snake)
         ASSERT_EQ(board.press(n, kLeftButton, true), PressResult::Selected) << n;
     EXPECT_EQ(state.parolaComposta.size(), 25u);
+}
+
+// Typing: the live paths after each key of a table, then typing and pressing mixed on a board.
+
+CellLetters letters(const std::string& rows) {
+    CellLetters board{};
+    for (std::size_t n = 0; n < rows.size() && n < board.size(); ++n)
+        board[n] = rows[n];
+    return board;
+}
+
+using Paths = std::vector<std::vector<int>>;
+
+// Keys are letters and '<' for Backspace; a refused letter leaves the word and its paths.
+TEST(TypedTrace, LivePathsAfterEachKey) {
+    const std::tuple<const char*, const char*, std::size_t, const char*, Paths> cases[] = {
+        // A letter twice beside the last one: every way stays, the shown one continued first.
+        {"CASA..A...",
+         "CASA",
+         256,
+         "CASA",
+         {{0, 1, 2, 3}, {0, 1, 2, 6}, {0, 6, 2, 1}, {0, 6, 2, 3}}},
+        // Absent, not touching the last die, or its only die already used: refused.
+        {"CA..Z", "CAXZC", 256, "CA", {{0, 1}}},
+        // Two ways to spell RA, of which only the second reaches the M.
+        {"RA...A....M", "RAM", 256, "RAM", {{0, 5, 10}}},
+        {"RA...A....M", "RAM<", 256, "RA", {{0, 1}, {0, 5}}},
+        {"RA...A....M", "RAM<<<<A", 256, "A", {{1}, {5}}},
+        // Kept to one path, the M is still found by a search afresh; a dead end stays refused.
+        {"RA...A....M", "RAM", 1, "RAM", {{0, 5, 10}}},
+        {"RA...A....M", "RAMA", 1, "RAM", {{0, 5, 10}}},
+        // Paths over the same dice to the same last die continue alike: kept once.
+        {"AA...AA",
+         "AAA",
+         256,
+         "AAA",
+         {{0, 1, 5},
+          {0, 1, 6},
+          {0, 5, 1},
+          {0, 5, 6},
+          {0, 6, 1},
+          {0, 6, 5},
+          {1, 5, 0},
+          {1, 5, 6},
+          {1, 6, 0},
+          {1, 6, 5},
+          {5, 6, 0},
+          {5, 6, 1}}},
+        {"a", "aA", 256, "", {}},
+    };
+    for (const auto& [board, keys, limit, word, paths] : cases) {
+        SCOPED_TRACE(std::string(board) + " " + keys);
+        TypedTrace trace(limit);
+        for (const char* k = keys; *k; ++k)
+            *k == '<' ? trace.back() : trace.type(letters(board), *k);
+        EXPECT_EQ(trace.letters(), word);
+        EXPECT_EQ(trace.paths(), paths);
+    }
+}
+
+// Typed letters draw the path as presses would; a press goes on from the path shown, and
+// Backspace takes back a pressed die as well.
+TEST_F(TracingTest, TypedLettersAndPressesBuildOneWord) {
+    EXPECT_EQ(board.typeLetter('A', false), PressResult::Refused);
+    EXPECT_EQ(board.typeLetter('A', true), PressResult::Selected);
+    EXPECT_EQ(board.typeLetter('G', true), PressResult::Selected);
+    EXPECT_EQ(board.path().marks(0).line2, (Segment{Anchor::Centre, Anchor::BottomRight}));
+    EXPECT_EQ(board.path().marks(6).line1, (Segment{Anchor::Centre, Anchor::TopLeft}));
+    EXPECT_EQ(board.typeLetter('Z', true), PressResult::Refused);
+    EXPECT_EQ(board.press(12, kLeftButton, true), PressResult::Selected);
+    EXPECT_EQ(board.typeLetter('S', true), PressResult::Selected);
+    EXPECT_EQ(state.parolaComposta, "AGMS");
+    EXPECT_EQ(board.takeBack(true), PressResult::Selected);
+    EXPECT_EQ(board.takeBack(true), PressResult::Selected);
+    EXPECT_EQ(state.parolaComposta, "AG");
+    EXPECT_EQ(state.ultimaCella, 6);
+    EXPECT_FALSE(state.cellaUsata[12]);
+    EXPECT_TRUE(board.path().marks(12).line1.hidden());
+    EXPECT_EQ(sounds.played, (std::vector<std::string>{"SND0002.wav", "SND0002.wav", "beep",
+                                                       "SND0002.wav", "SND0002.wav"}));
+    board.azzeraParola();
+    EXPECT_EQ(board.takeBack(true), PressResult::Refused);
+    EXPECT_EQ(board.typeLetter('G', true), PressResult::Selected);
+    EXPECT_EQ(state.parolaComposta, "G");
 }
 
 // The submission: every outcome with its message, sounds and list change, the confirmation's

@@ -1,0 +1,99 @@
+#include "ui/accessibility.h"
+
+#include "ui/die_cell.h"
+#include "ui/time_bar.h"
+
+#include <QAccessibleWidget>
+#include <QCoreApplication>
+#include <QWidget>
+
+namespace griglione {
+namespace {
+
+constexpr auto kAnnouncement = "announcement";
+
+// A die is a button: its default action is the left button, its menu action the right one.
+class DieInterface final : public QAccessibleWidget {
+public:
+    explicit DieInterface(DieCell* die) : QAccessibleWidget(die, QAccessible::Button) {}
+
+    QStringList actionNames() const override {
+        return {pressAction(), showMenuAction(), setFocusAction()};
+    }
+    void doAction(const QString& action) override {
+        auto* die = static_cast<DieCell*>(widget());
+        if (action == pressAction()) emit die->pressed(die->index(), 1);
+        if (action == showMenuAction()) emit die->pressed(die->index(), 2);
+        if (action == setFocusAction()) die->setFocus(Qt::OtherFocusReason);
+    }
+};
+
+// The time bar is read as the share of the match gone by, in hundredths.
+class TimeBarInterface final : public QAccessibleWidget, public QAccessibleValueInterface {
+public:
+    explicit TimeBarInterface(TimeBar* bar) : QAccessibleWidget(bar, QAccessible::ProgressBar) {}
+
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        if (type == QAccessible::ValueInterface)
+            return static_cast<QAccessibleValueInterface*>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+    QString text(QAccessible::Text t) const override {
+        if (t == QAccessible::Value) return QStringLiteral("%1%").arg(currentValue().toInt());
+        return QAccessibleWidget::text(t);
+    }
+    QVariant currentValue() const override {
+        const auto* bar = static_cast<const TimeBar*>(widget());
+        return bar->innerWidth() > 0 ? bar->filledWidth() * 100 / bar->innerWidth() : 0;
+    }
+    void setCurrentValue(const QVariant&) override {}
+    QVariant maximumValue() const override { return 100; }
+    QVariant minimumValue() const override { return 0; }
+    QVariant minimumStepSize() const override { return 1; }
+};
+
+// The announcements: a notification that shows afresh with every message, which is what makes
+// a screen reader speak it.
+class AnnouncementInterface final : public QAccessibleWidget {
+public:
+    explicit AnnouncementInterface(QWidget* w) : QAccessibleWidget(w, QAccessible::Notification) {}
+};
+
+QAccessibleInterface* factory(const QString& className, QObject* object) {
+    if (className == QLatin1String("griglione::DieCell"))
+        return new DieInterface(static_cast<DieCell*>(object));
+    if (className == QLatin1String("griglione::TimeBar"))
+        return new TimeBarInterface(static_cast<TimeBar*>(object));
+    if (object && object->isWidgetType() && object->objectName() == QLatin1String(kAnnouncement))
+        return new AnnouncementInterface(static_cast<QWidget*>(object));
+    return nullptr;
+}
+
+} // namespace
+
+void installAccessibility() {
+    static const bool installed = [] {
+        QAccessible::installFactory(factory);
+        return true;
+    }();
+    (void)installed;
+}
+
+void announce(QWidget* window, const QString& text) {
+    installAccessibility();
+    if (!window) return;
+    auto* notice = window->findChild<QWidget*>(kAnnouncement, Qt::FindDirectChildrenOnly);
+    if (!notice) {
+        // Out of sight in a corner, yet shown: readers ignore what is hidden.
+        notice = new QWidget(window);
+        notice->setObjectName(kAnnouncement);
+        notice->setAttribute(Qt::WA_TransparentForMouseEvents);
+        notice->setGeometry(0, 0, 1, 1);
+    }
+    notice->hide();
+    notice->setAccessibleName(text);
+    notice->show();
+    notice->lower();
+}
+
+} // namespace griglione
