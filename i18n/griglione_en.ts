@@ -146,6 +146,14 @@ Click the &lt;OK&gt; button to play.</translation>
     </message>
 </context>
 <context>
+    <name>NumberText</name>
+    <message>
+        <source>.</source>
+        <extracomment>The thousands separator of scores and word counts.</extracomment>
+        <translation>,</translation>
+    </message>
+</context>
+<context>
     <name>Options</name>
     <message>
         <source>&amp;Junior (Birillo)</source>
@@ -570,7 +578,7 @@ Thanks to everyone who plays and reports missing words.</translation>
     <name>griglione::MainWindow</name>
     <message>
         <source>Parola composta</source>
-        <translation>Your word</translation>
+        <translation>Current word</translation>
     </message>
     <message>
         <source>&amp;OK</source>
@@ -586,7 +594,7 @@ Thanks to everyone who plays and reports missing words.</translation>
     </message>
     <message>
         <source>Trovate da te</source>
-        <translation>Found by you</translation>
+        <translation>Your words</translation>
     </message>
     <message>
         <source>Punti</source>
