@@ -48,7 +48,8 @@ void WordSubmission::inviaParola() {
     if (parola.empty()) {
         m_sounds.suona("DOOLANE.WAV");
         setBusy(false);
-        show({"OOPS!", playerText("WordSubmission", "Inserisci una parola!"),
+        show({playerText("WordSubmission", "OOPS!"),
+              playerText("WordSubmission", "Inserisci una parola!"),
               playerText("WordSubmission",
                          "Formare una parola di senso compiuto cliccando su lettere adiacenti tra "
                          "di loro orizzontalmente, verticalmente e diagonalmente, la stessa "
@@ -60,7 +61,8 @@ void WordSubmission::inviaParola() {
     if (parola.size() < 3) {
         m_sounds.suona("SHOOT1.WAV");
         setBusy(false);
-        show({"OOPS!", playerText("WordSubmission", "Parola troppo corta!"),
+        show({playerText("WordSubmission", "OOPS!"),
+              playerText("WordSubmission", "Parola troppo corta!"),
               withArgs(playerText("WordSubmission", "Attenzione: Devi inserire una parola in %1 "
                                                     "che deve essere composta almeno da 3 "
                                                     "caratteri."),
@@ -74,13 +76,15 @@ void WordSubmission::inviaParola() {
         m_sounds.suona("ROCHAN3.WAV");
         setBusy(false);
         if (mine)
-            show({"OOPS!", playerText("WordSubmission", "Parola già inserita da te!"),
+            show({playerText("WordSubmission", "OOPS!"),
+                  playerText("WordSubmission", "Parola già inserita da te!"),
                   withArgs(playerText("WordSubmission", "Hai già precedentemente inserito la "
                                                         "parola: %1 mi dispiace, punteggio non "
                                                         "assegnato."),
                            {parola})});
         else
-            show({"OOPS!", playerText("WordSubmission", "Parola già inserita dalla CPU!"),
+            show({playerText("WordSubmission", "OOPS!"),
+                  playerText("WordSubmission", "Parola già inserita dalla CPU!"),
                   withArgs(playerText("WordSubmission", "Il computer ha già inserito la parola: "
                                                         "%1 mi dispiace, punteggio non assegnato"),
                            {parola})});

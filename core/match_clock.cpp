@@ -27,7 +27,8 @@ Messaggio startMessage(const GameState& state, const std::array<bool, 4>& levelC
     std::string level;
     for (int i : {Junior, Principiante, Esperto, Medio})
         if (levelChecked[i]) level = kLevels[i].name;
-    return {"START", playerText("MatchClock", "Inizio partita"),
+    //: The message window's headline: five letters, each shown in a box of its own.
+    return {playerText("MatchClock", "START"), playerText("MatchClock", "Inizio partita"),
             withArgs(playerText("MatchClock", "Si inizia una nuova partita di %1 secondi.\r\nIl "
                                               "dizionario usato è : %2\r\nIl livello "
                                               "dell'avversario è : %3\r\nCliccare il pulsante "

@@ -18,6 +18,10 @@
         <source>Attenzione : La lettera deve essere adiacente a quella cliccata in precedenza! Per scrivere una nuova parola cliccare il pulsante &lt;Azzera&gt;</source>
         <translation>Watch out: the die must touch the one you clicked before! To write a new word, click the &lt;Clear&gt; button.</translation>
     </message>
+    <message>
+        <source>OOPS!</source>
+        <translation>OOPS!</translation>
+    </message>
 </context>
 <context>
     <name>Dictionary</name>
@@ -68,6 +72,11 @@ Cliccare il pulsante &lt;OK&gt; per giocare.</source>
 Dictionary in use: %2<byte value="xd"/>
 Opponent level: %3<byte value="xd"/>
 Click the &lt;OK&gt; button to play.</translation>
+    </message>
+    <message>
+        <source>START</source>
+        <extracomment>The message window&apos;s headline: five letters, each shown in a box of its own.</extracomment>
+        <translation>START</translation>
     </message>
 </context>
 <context>
@@ -370,6 +379,10 @@ Click the &lt;OK&gt; button to play.</translation>
         <source>Complimenti la parola è presente nel dizionario, verranno aggiunti:%1 punti</source>
         <translation>Well done, the word is in the dictionary: it scores %1 points.</translation>
     </message>
+    <message>
+        <source>OOPS!</source>
+        <translation>OOPS!</translation>
+    </message>
 </context>
 <context>
     <name>griglione::ConfirmWindow</name>
@@ -612,6 +625,10 @@ Thanks to everyone who plays and reports missing words.</translation>
         <source>Informazioni dizionario</source>
         <translation>Allowed words</translation>
     </message>
+    <message>
+        <source>INFO!</source>
+        <translation>INFO!</translation>
+    </message>
 </context>
 <context>
     <name>griglione::MessageWindow</name>
@@ -665,6 +682,10 @@ Thanks to everyone who plays and reports missing words.</translation>
     <message>
         <source>Clicca per registrare questo punteggio nella tabella mondiale su Internet</source>
         <translation>Click to enter this score in the world record table on the Internet</translation>
+    </message>
+    <message>
+        <source>The Best</source>
+        <translation>The Best</translation>
     </message>
 </context>
 <context>

@@ -347,7 +347,8 @@ void MainWindow::diePressed(int n, int button) {
 void MainWindow::showRules() {
     const std::string& rules = m_rules.text(m_services.alerts);
     if (m_playerName->isVisible()) m_playerName->setFocus();
-    m_state.messaggio = {"INFO!", tr("Informazioni dizionario").toStdString(), rules};
+    m_state.messaggio = {tr("INFO!").toStdString(), tr("Informazioni dizionario").toStdString(),
+                         rules};
     m_messages.mostraMessaggio(m_state.messaggio, false);
 }
 

@@ -72,7 +72,7 @@ void RecordsWindow::buildControls() {
         ->setFont(tahoma(14, true));
     m_first = label(this, "Label1", "Brivo The Best", twipsRect(390, 555, 3600, 375), Qt::white);
     m_first->setFont(tahoma(12, true));
-    m_theBest = label(this, "Label2", "The Best", twipsRect(390, 930, 1500, 375), kGold);
+    m_theBest = label(this, "Label2", tr("The Best"), twipsRect(390, 930, 1500, 375), kGold);
     m_theBest->setFont(tahoma(12, true));
     m_theBest->installEventFilter(this);
 
