@@ -24,8 +24,8 @@ ConfirmWindow::ConfirmWindow(const std::string& parola, const std::string& nomeD
 
     auto* explanation = new QLabel(
         tr("Questa parola  non è stata trovata nel dizionario, se non si tratta di un nome "
-           "proprio, "
-           "di un nome di località, di una sigla ecc. si può inserire nel vocabolario personale."),
+           "proprio, di un nome di località, di una sigla ecc. si può inserire nel vocabolario "
+           "personale."),
         this);
     explanation->setObjectName("Label1");
     explanation->setWordWrap(true);
