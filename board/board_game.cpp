@@ -1,6 +1,7 @@
 #include "board/board_game.h"
 
 #include "board/board_layout.h"
+#include "core/player_text.h"
 
 namespace griglione {
 
@@ -70,10 +71,11 @@ PressResult BoardGame::press(int n, int button, bool matchRunning) {
     } else if (!celleAdiacenti(p, n)) {
         m_sounds.beep();
         m_state.cellaUsata[n] = false;
-        m_state.messaggio = {"OOPS!", "Lettera non adiacente",
-                             "Attenzione : La lettera deve essere adiacente a quella cliccata in "
-                             "precedenza! Per scrivere una nuova parola cliccare il pulsante "
-                             "<Azzera>"};
+        m_state.messaggio = {
+            playerText("BoardGame", "OOPS!"), playerText("BoardGame", "Lettera non adiacente"),
+            playerText("BoardGame", "Attenzione : La lettera deve essere adiacente a quella "
+                                    "cliccata in precedenza! Per scrivere una nuova parola "
+                                    "cliccare il pulsante <Azzera>")};
         m_messages.mostraMessaggio(m_state.messaggio, false);
         return PressResult::NotAdjacent;
     } else {

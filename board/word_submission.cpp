@@ -1,6 +1,7 @@
 #include "board/word_submission.h"
 
 #include "core/ansi_text.h"
+#include "core/player_text.h"
 #include "dictionary/personal_vocabulary.h"
 
 #include <algorithm>
@@ -47,19 +48,25 @@ void WordSubmission::inviaParola() {
     if (parola.empty()) {
         m_sounds.suona("DOOLANE.WAV");
         setBusy(false);
-        show({"OOPS!", "Inserisci una parola!",
-              "Formare una parola di senso compiuto cliccando su lettere adiacenti tra di loro "
-              "orizzontalmente, verticalmente e diagonalmente, la stessa lettera non può essere "
-              "usata più di una volta per comporre la parola. Le parole già trovate (anche dal "
-              "PC) non possono ovviamente essere riutilizzate."});
+        show({playerText("WordSubmission", "OOPS!"),
+              playerText("WordSubmission", "Inserisci una parola!"),
+              playerText("WordSubmission",
+                         "Formare una parola di senso compiuto cliccando su lettere adiacenti tra "
+                         "di loro orizzontalmente, verticalmente e diagonalmente, la stessa "
+                         "lettera non può essere usata più di una volta per comporre la parola. "
+                         "Le parole già trovate (anche dal PC) non possono ovviamente essere "
+                         "riutilizzate.")});
         return;
     }
     if (parola.size() < 3) {
         m_sounds.suona("SHOOT1.WAV");
         setBusy(false);
-        show({"OOPS!", "Parola troppo corta!",
-              "Attenzione: Devi inserire una parola in " + m_state.nomeDizionario +
-                  " che deve essere composta almeno da 3 caratteri."});
+        show({playerText("WordSubmission", "OOPS!"),
+              playerText("WordSubmission", "Parola troppo corta!"),
+              withArgs(playerText("WordSubmission", "Attenzione: Devi inserire una parola in %1 "
+                                                    "che deve essere composta almeno da 3 "
+                                                    "caratteri."),
+                       {playerText("Options", m_state.nomeDizionario)})});
         return;
     }
 
@@ -69,13 +76,18 @@ void WordSubmission::inviaParola() {
         m_sounds.suona("ROCHAN3.WAV");
         setBusy(false);
         if (mine)
-            show({"OOPS!", "Parola già inserita da te!",
-                  "Hai già precedentemente inserito la parola: " + parola +
-                      " mi dispiace, punteggio non assegnato."});
+            show({playerText("WordSubmission", "OOPS!"),
+                  playerText("WordSubmission", "Parola già inserita da te!"),
+                  withArgs(playerText("WordSubmission", "Hai già precedentemente inserito la "
+                                                        "parola: %1 mi dispiace, punteggio non "
+                                                        "assegnato."),
+                           {parola})});
         else
-            show({"OOPS!", "Parola già inserita dalla CPU!",
-                  "Il computer ha già inserito la parola: " + parola +
-                      " mi dispiace, punteggio non assegnato"});
+            show({playerText("WordSubmission", "OOPS!"),
+                  playerText("WordSubmission", "Parola già inserita dalla CPU!"),
+                  withArgs(playerText("WordSubmission", "Il computer ha già inserito la parola: "
+                                                        "%1 mi dispiace, punteggio non assegnato"),
+                           {parola})});
         m_board.azzera();
         return;
     }
@@ -101,9 +113,11 @@ void WordSubmission::accept() {
     const std::int32_t points = punteggioParola(parola.size());
     m_state.puntiGiocatore += points;
     m_sounds.suona("vinci.wav");
-    show({"BENE!", "Complimenti, parola accettata!",
-          "Complimenti la parola è presente nel dizionario, verranno aggiunti:" +
-              std::to_string(points) + " punti"});
+    show({playerText("WordSubmission", "BENE!"),
+          playerText("WordSubmission", "Complimenti, parola accettata!"),
+          withArgs(playerText("WordSubmission", "Complimenti la parola è presente nel "
+                                                "dizionario, verranno aggiunti:%1 punti"),
+                   {std::to_string(points)})});
     m_view.changed(Aspect::Scores);
     m_state.paroleGiocatore.push_back(lowerAscii(parola));
     m_view.changed(Aspect::PlayerWords);

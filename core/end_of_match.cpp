@@ -3,6 +3,7 @@
 
 #include "core/levels.h"
 #include "core/number_text.h"
+#include "core/player_text.h"
 
 namespace griglione {
 namespace {
@@ -33,15 +34,15 @@ EndOfMatchTexts MatchStatistics::record(const std::string& humanName,
     texts.cpuScore = std::to_string(cpuScore);
 
     if (humanScore < cpuScore) {
-        texts.result = "Ha vinto " + m_cpuName;
+        texts.result = withArgs(playerText("EndOfMatch", "Ha vinto %1"), {m_cpuName});
         texts.sound = "explode2.wav";
         ++m_cpuWins;
     } else if (humanScore > cpuScore) {
-        texts.result = "Ha vinto " + humanName + "!";
+        texts.result = withArgs(playerText("EndOfMatch", "Ha vinto %1!"), {humanName});
         texts.sound = "collapse.wav";
         ++m_humanWins;
     } else {
-        texts.result = "Partita PARI!";
+        texts.result = playerText("EndOfMatch", "Partita PARI!");
         texts.sound = "SND0012.WAV";
         ++m_draws;
     }

@@ -1,6 +1,8 @@
 // The opponent's four levels and the four match lengths, in the order of their menu items.
 #pragma once
 
+#include "core/player_text.h"
+
 #include <array>
 #include <string_view>
 
@@ -14,10 +16,13 @@ struct LevelInfo {
 };
 
 inline constexpr std::array<LevelInfo, 4> kLevels = {{
-    {1000, "&Junior (Birillo)", "Junior (Birillo)", "Birillo (CPU)"},
-    {500, "&Principiante (Tapo)", "Principiante (Tapo)", "Tapo (CPU)"},
-    {300, "&Medio (Memo)", "Medio (Memo)", "Memo (CPU)"},
-    {100, "&Esperto (Sapienzo)", "Esperto (Sapienzo)", "Sapienzo (CPU)"},
+    {1000, textMark("Options", "&Junior (Birillo)"), textMark("Options", "Junior (Birillo)"),
+     "Birillo (CPU)"},
+    {500, textMark("Options", "&Principiante (Tapo)"), textMark("Options", "Principiante (Tapo)"),
+     "Tapo (CPU)"},
+    {300, textMark("Options", "&Medio (Memo)"), textMark("Options", "Medio (Memo)"), "Memo (CPU)"},
+    {100, textMark("Options", "&Esperto (Sapienzo)"), textMark("Options", "Esperto (Sapienzo)"),
+     "Sapienzo (CPU)"},
 }};
 enum LevelIndex { Junior = 0, Principiante = 1, Medio = 2, Esperto = 3 };
 
@@ -27,10 +32,10 @@ struct MatchLengthInfo {
 };
 
 inline constexpr std::array<MatchLengthInfo, 4> kMatchLengths = {{
-    {60, "&60 Secondi"},
-    {90, "&90 Secondi"},
-    {120, "&2 Minuti"},
-    {300, "&5 minuti"},
+    {60, textMark("Options", "&60 Secondi")},
+    {90, textMark("Options", "&90 Secondi")},
+    {120, textMark("Options", "&2 Minuti")},
+    {300, textMark("Options", "&5 minuti")},
 }};
 
 struct LineWidthInfo {
@@ -39,9 +44,9 @@ struct LineWidthInfo {
 };
 
 inline constexpr std::array<LineWidthInfo, 3> kLineWidths = {{
-    {1, "&Stretta"},
-    {7, "&Media"},
-    {13, "&Larga"},
+    {1, textMark("Options", "&Stretta")},
+    {7, textMark("Options", "&Media")},
+    {13, textMark("Options", "&Larga")},
 }};
 
 struct LanguageInfo {
@@ -51,9 +56,9 @@ struct LanguageInfo {
 };
 
 inline constexpr std::array<LanguageInfo, 3> kLanguages = {{
-    {1, "&Italiano", "Italiano"},
-    {2, "&English", "English"},
-    {3, "&Latino", "Latino"},
+    {1, textMark("Options", "&Italiano"), textMark("Options", "Italiano")},
+    {2, textMark("Options", "&English"), textMark("Options", "English")},
+    {3, textMark("Options", "&Latino"), textMark("Options", "Latino")},
 }};
 
 } // namespace griglione

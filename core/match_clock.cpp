@@ -2,6 +2,7 @@
 
 #include "core/levels.h"
 #include "core/number_text.h"
+#include "core/player_text.h"
 
 namespace griglione {
 
@@ -26,11 +27,14 @@ Messaggio startMessage(const GameState& state, const std::array<bool, 4>& levelC
     std::string level;
     for (int i : {Junior, Principiante, Esperto, Medio})
         if (levelChecked[i]) level = kLevels[i].name;
-    return {"START", "Inizio partita",
-            "Si inizia una nuova partita di " + std::to_string(state.tempoPartita) +
-                " secondi.\r\nIl dizionario usato è : " + state.nomeDizionario +
-                "\r\nIl livello dell'avversario è : " + level +
-                "\r\nCliccare il pulsante <OK> per giocare."};
+    //: The message window's headline: five letters, each shown in a box of its own.
+    return {playerText("MatchClock", "START"), playerText("MatchClock", "Inizio partita"),
+            withArgs(playerText("MatchClock", "Si inizia una nuova partita di %1 secondi.\r\nIl "
+                                              "dizionario usato è : %2\r\nIl livello "
+                                              "dell'avversario è : %3\r\nCliccare il pulsante "
+                                              "<OK> per giocare."),
+                     {std::to_string(state.tempoPartita),
+                      playerText("Options", state.nomeDizionario), playerText("Options", level)})};
 }
 
 } // namespace griglione

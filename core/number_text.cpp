@@ -1,5 +1,7 @@
 #include "core/number_text.h"
 
+#include "core/player_text.h"
+
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -55,9 +57,11 @@ std::string groupedNumber(std::int64_t n, int minDigits) {
     if (negative) digits.erase(0, 1);
     if (static_cast<int>(digits.size()) < minDigits)
         digits.insert(0, static_cast<std::size_t>(minDigits) - digits.size(), '0');
+    //: The thousands separator of scores and word counts.
+    const std::string separator = playerText("NumberText", ".");
     std::string grouped;
     for (std::size_t i = 0; i < digits.size(); ++i) {
-        if (i > 0 && (digits.size() - i) % 3 == 0) grouped += '.';
+        if (i > 0 && (digits.size() - i) % 3 == 0) grouped += separator;
         grouped += digits[i];
     }
     return negative ? "-" + grouped : grouped;

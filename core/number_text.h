@@ -25,8 +25,8 @@ std::optional<std::int32_t> roundHalfEven(double value);
 // The last `width` characters of `text` after padding it on the left with blanks.
 std::string rightAligned(std::string_view text, std::size_t width);
 
-// Digits grouped by threes with the point, as an Italian system shows them: at least `minDigits`
-// digits, zeros in front ("01.240" for 1240 and 5); no digit at all for 0 and 0.
+// Digits grouped by threes with the point, as an Italian system shows them (a comma in English):
+// at least `minDigits` digits, zeros in front ("01.240" for 1240 and 5); no digit for 0 and 0.
 std::string groupedNumber(std::int64_t n, int minDigits);
 
 } // namespace griglione

@@ -2,6 +2,7 @@
 
 #include "core/atomic_file.h"
 #include "core/file_names.h"
+#include "core/player_text.h"
 #include "dictionary/personal_vocabulary.h"
 
 #include <fstream>
@@ -25,8 +26,9 @@ void Dictionary::prendidiz() {
     const auto path = dictionaryPath();
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error)) {
-        m_alerts.fatale("Errore fatale! non trovato file di vocabolario: SLESSICO." +
-                        std::to_string(m_state.numDizionario));
+        m_alerts.fatale(withArgs(playerText("Dictionary", "Errore fatale! non trovato file di "
+                                                          "vocabolario: SLESSICO.%1"),
+                                 {std::to_string(m_state.numDizionario)}));
         m_index = {};
         return;
     }
@@ -44,8 +46,9 @@ bool Dictionary::blockHolds(int length) const {
 bool Dictionary::trovaInDizionario(const std::string& parola) {
     std::error_code error;
     if (!std::filesystem::is_regular_file(dictionaryPath(), error)) {
-        m_alerts.fatale("Errore 0002: Non trovato file di vocabolario SLESSICO." +
-                        std::to_string(m_state.numDizionario));
+        m_alerts.fatale(withArgs(
+            playerText("Dictionary", "Errore 0002: Non trovato file di vocabolario SLESSICO.%1"),
+            {std::to_string(m_state.numDizionario)}));
         return false;
     }
     const int length = static_cast<int>(parola.size());
@@ -83,8 +86,9 @@ bool Dictionary::aggiungiAlVocabolario(const std::string& parola) {
 std::string Dictionary::cercaParola(const std::string& parola) {
     std::error_code error;
     if (!std::filesystem::is_regular_file(dictionaryPath(), error)) {
-        m_alerts.avviso("Errore 0002: Non trovato file di vocabolario SLESSICO." +
-                        std::to_string(m_state.numDizionario));
+        m_alerts.avviso(withArgs(
+            playerText("Dictionary", "Errore 0002: Non trovato file di vocabolario SLESSICO.%1"),
+            {std::to_string(m_state.numDizionario)}));
         return "";
     }
     if (!m_files.open(FileSlot::Opponent, dictionaryPath())) return "BUSY";

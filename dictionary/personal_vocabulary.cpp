@@ -2,6 +2,7 @@
 
 #include "core/ansi_text.h"
 #include "core/atomic_file.h"
+#include "core/player_text.h"
 
 #include <algorithm>
 
@@ -53,8 +54,10 @@ bool appendToPersonalVocabulary(const std::filesystem::path& file, std::string_v
 }
 
 std::string personalVocabularyWriteError(int numDizionario) {
-    return "Errore 0003: impossibile scrivere il file del vocabolario personale " +
-           personalVocabularyFileName(numDizionario) + ", la parola non è stata salvata";
+    return withArgs(playerText("PersonalVocabulary",
+                               "Errore 0003: impossibile scrivere il file del vocabolario "
+                               "personale %1, la parola non è stata salvata"),
+                    {personalVocabularyFileName(numDizionario)});
 }
 
 } // namespace griglione

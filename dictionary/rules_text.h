@@ -1,6 +1,7 @@
 // The word rules REGPAROL.TXT: free text for the player, shown but never interpreted.
 #pragma once
 
+#include "core/player_text.h"
 #include "core/ports.h"
 
 #include <filesystem>
@@ -9,12 +10,14 @@
 
 namespace griglione {
 
-inline constexpr std::string_view kRulesFileName = "REGPAROL.TXT";
+//: The rules file in this language, beside the game's files; the Italian one when it is missing.
+inline constexpr std::string_view kRulesFileName = textMark("RulesText", "REGPAROL.TXT");
 
 // Every line of a rules file's bytes followed by `lineEnd`, as UTF-8.
 std::string rulesTextFromBytes(std::string_view bytes, std::string_view lineEnd);
 
-// Every line of the rules file followed by `lineEnd`, as UTF-8; nothing when it is missing.
+// Every line of the rules file in the player's language (the Italian one when that is missing)
+// followed by `lineEnd`, as UTF-8; nothing when both are missing.
 std::optional<std::string> readRulesText(const std::filesystem::path& folder,
                                          std::string_view lineEnd);
 

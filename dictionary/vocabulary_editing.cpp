@@ -1,6 +1,7 @@
 #include "dictionary/vocabulary_editing.h"
 
 #include "core/number_text.h"
+#include "core/player_text.h"
 #include "dictionary/dictionary_format.h"
 
 #include <cctype>
@@ -23,14 +24,16 @@ NewWordCheck checkNewWord(std::string_view parola, std::string_view alfabeto,
 std::string newWordMessage(NewWordCheck check) {
     switch (check) {
     case NewWordCheck::BadLetter:
-        return "Sono stati utilizzati uno o più caratteri non contemplati dall'alfabeto italiano "
-               "oppure caratteri numerici!";
+        return playerText("VocabularyEditing",
+                          "Sono stati utilizzati uno o più caratteri non contemplati "
+                          "dall'alfabeto italiano oppure caratteri numerici!");
     case NewWordCheck::TooShort:
-        return "La parola deve essere composta da 3 a 10 caratteri, vuoi continuare?";
+        return playerText("VocabularyEditing",
+                          "La parola deve essere composta da 3 a 10 caratteri, vuoi continuare?");
     case NewWordCheck::InMainDictionary:
-        return "Parola già inserita nel vocabolario generale!";
+        return playerText("VocabularyEditing", "Parola già inserita nel vocabolario generale!");
     case NewWordCheck::InPersonalList:
-        return "Parola già inserita nel vocabolario personale!";
+        return playerText("VocabularyEditing", "Parola già inserita nel vocabolario personale!");
     case NewWordCheck::Empty:
     case NewWordCheck::Added:
         break;
@@ -40,8 +43,11 @@ std::string newWordMessage(NewWordCheck check) {
 
 std::optional<std::string> deleteRefusal(int selectedRow, int count) {
     if (selectedRow >= 0 && selectedRow < count) return std::nullopt;
-    if (count > 0) return "Occorre prima selezionare la parola da cancellare!";
-    return "Non ci sono parole da cancellare dal vocabolario privato!";
+    if (count > 0)
+        return playerText("VocabularyEditing",
+                          "Occorre prima selezionare la parola da cancellare!");
+    return playerText("VocabularyEditing",
+                      "Non ci sono parole da cancellare dal vocabolario privato!");
 }
 
 int rowAfterDelete(int removedRow, int remainingCount) {
@@ -78,19 +84,26 @@ InsertCheck checkInsert(std::string_view parola,
 std::string insertMessage(InsertCheck check, const std::string& parola) {
     switch (check) {
     case InsertCheck::BadLength:
-        return "Nel dizionario sono ammesse solamente parole formate da 3 a 10 caratteri.";
+        return playerText(
+            "VocabularyEditing",
+            "Nel dizionario sono ammesse solamente parole formate da 3 a 10 caratteri.");
     case InsertCheck::Exists:
-        return "La parola '" + parola + "' esiste già nel dizionario.";
+        return withArgs(
+            playerText("VocabularyEditing", "La parola '%1' esiste già nel dizionario."), {parola});
     case InsertCheck::Added:
         break;
     }
-    return "La parola '" + parola +
-           "' è stata momentaneamente aggiunta al dizionario, cliccare sul bottone 'Crea "
-           "dizionario' per la ricostruzione definitiva sul disco.";
+    return withArgs(playerText("VocabularyEditing",
+                               "La parola '%1' è stata momentaneamente aggiunta al dizionario, "
+                               "cliccare sul bottone 'Crea dizionario' per la ricostruzione "
+                               "definitiva sul disco."),
+                    {parola});
 }
 
 std::string countLabel(std::int64_t count, bool edited) {
-    return "(" + std::to_string(count) + (edited ? ") Parole" : ") parole");
+    return withArgs(edited ? playerText("VocabularyEditing", "(%1) Parole")
+                           : playerText("VocabularyEditing", "(%1) parole"),
+                    {std::to_string(count)});
 }
 
 std::int64_t countLabelNumber(std::string_view label) {

@@ -87,7 +87,7 @@ std::string RecordTable::fileBytes() const {
 }
 
 std::vector<std::string> RecordTable::listLines() const {
-    std::vector<std::string> lines{std::string(kRecordsHeader)};
+    std::vector<std::string> lines{playerText("RecordTable", kRecordsHeader)};
     for (int i = 1; i <= kRecordPlaces; ++i) {
         std::string name = slot(i).name.substr(0, 12);
         name.resize(12, ' ');

@@ -2,6 +2,8 @@
 // 52nd line; its file form, its list lines and the search for the player's place.
 #pragma once
 
+#include "core/player_text.h"
+
 #include <array>
 #include <cstdint>
 #include <istream>
@@ -15,7 +17,8 @@ namespace griglione {
 inline constexpr std::string_view kRecordsFileName = "zarMolo.HIS";
 inline constexpr int kRecordPlaces = 50;
 inline constexpr int kRecordSlots = 52;
-inline constexpr std::string_view kRecordsHeader = " N. - Giocatore    -  Punti";
+inline constexpr std::string_view kRecordsHeader =
+    textMark("RecordTable", " N. - Giocatore    -  Punti");
 
 struct RecordEntry {
     std::string name; // Windows-1252 bytes, as in the file

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCoreApplication>
 #include <QMessageBox>
 
 #include <cstdlib>
@@ -17,8 +18,8 @@ void AlertBoxes::avviso(const std::string& testo) {
 bool askOkCancel(const std::string& text) {
     QMessageBox box(QMessageBox::NoIcon, kProgramTitle, QString::fromStdString(text),
                     QMessageBox::Ok | QMessageBox::Cancel, QApplication::activeModalWidget());
-    // The boxes speak Italian like the rest of the program, whatever the system's language.
-    box.button(QMessageBox::Cancel)->setText("Annulla");
+    // The boxes speak the program's language, not the one of Qt's own texts.
+    box.button(QMessageBox::Cancel)->setText(QCoreApplication::translate("AlertBoxes", "Annulla"));
     return box.exec() == QMessageBox::Ok;
 }
 

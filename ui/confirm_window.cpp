@@ -5,6 +5,7 @@
 #include "ui/colours.h"
 #include "ui/message_window.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -18,12 +19,13 @@ ConfirmWindow::ConfirmWindow(const std::string& parola, const std::string& nomeD
                              const std::string& rules, QWidget* parent)
     : QDialog(parent) {
     setObjectName("Form6");
-    setWindowTitle("Il Griglione - Conferma accettazione parola");
+    setWindowTitle(tr("Il Griglione - Conferma accettazione parola"));
     setFixedSize(460, 470);
 
     auto* explanation = new QLabel(
-        "Questa parola  non è stata trovata nel dizionario, se non si tratta di un nome proprio, "
-        "di un nome di località, di una sigla ecc. si può inserire nel vocabolario personale.",
+        tr("Questa parola  non è stata trovata nel dizionario, se non si tratta di un nome "
+           "proprio, di un nome di località, di una sigla ecc. si può inserire nel vocabolario "
+           "personale."),
         this);
     explanation->setObjectName("Label1");
     explanation->setWordWrap(true);
@@ -34,13 +36,15 @@ ConfirmWindow::ConfirmWindow(const std::string& parola, const std::string& nomeD
     word->setFont(tahoma(16, true));
     setColours(word, QColor(0, 0, 128), QColor(255, 255, 192));
 
-    auto* language = new QLabel(QString::fromStdString("Dizionario in " + nomeDizionario), this);
+    auto* language = new QLabel(
+        tr("Dizionario in %1").arg(QCoreApplication::translate("Options", nomeDizionario.c_str())),
+        this);
     language->setObjectName("Label3");
     language->setAlignment(Qt::AlignCenter);
 
-    const std::array<const char*, 3> captions = {"Inserire e conteggiare i punti in questa manche",
-                                                 "Inserire e non conteggiare i punti",
-                                                 "Non inserire nel dizionario personale"};
+    const std::array<QString, 3> captions = {tr("Inserire e conteggiare i punti in questa manche"),
+                                             tr("Inserire e non conteggiare i punti"),
+                                             tr("Non inserire nel dizionario personale")};
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(explanation);
     layout->addWidget(word);
@@ -59,7 +63,7 @@ ConfirmWindow::ConfirmWindow(const std::string& parola, const std::string& nomeD
     rulesField->setPlainText(QString::fromStdString(rules).replace("\r\n", "\n"));
     layout->addWidget(rulesField, 1);
 
-    auto* ok = new QPushButton("&OK", this);
+    auto* ok = new QPushButton(tr("&OK"), this);
     ok->setObjectName("Command1");
     ok->setDefault(true);
     layout->addWidget(ok, 0, Qt::AlignHCenter);

@@ -32,7 +32,7 @@ QLabel* label(QWidget* parent, const QString& name, const QString& text, const Q
 }
 
 QPushButton* button(QWidget* parent, const char* name, const char* caption, const QRect& at) {
-    auto* b = new QPushButton(caption, parent);
+    auto* b = new QPushButton(DictionaryEditorWindow::tr(caption), parent);
     b->setObjectName(name);
     b->setGeometry(at);
     b->setAutoDefault(false);
@@ -52,7 +52,7 @@ std::string fileWord(const QString& word) {
 DictionaryEditorWindow::DictionaryEditorWindow(EditorContext context, QWidget* parent)
     : QDialog(parent), m_context(std::move(context)) {
     setObjectName("Form9");
-    setWindowTitle("Griglione  - Dizionario principale");
+    setWindowTitle(tr("Griglione  - Dizionario principale"));
     setFixedSize(604, 400);
     buildControls();
     closeEntry();
@@ -66,7 +66,7 @@ void DictionaryEditorWindow::buildControls() {
     for (int i = 0; i < kLists; ++i) {
         const int x = 12 + (i % 4) * 147;
         const int y = 48 + (i / 4) * 86;
-        label(this, QStringLiteral("Label1_%1").arg(i), QStringLiteral("%1 Caratt.").arg(i + 3),
+        label(this, QStringLiteral("Label1_%1").arg(i), tr("%1 Caratt.").arg(i + 3),
               {x, y, 135, 18});
         m_words[i] = new QStringListModel(this);
         auto* list = new QComboBox(this);
@@ -87,10 +87,11 @@ void DictionaryEditorWindow::buildControls() {
         m_lists[i] = list;
         m_counts[i] = label(this, QStringLiteral("Label2_%1").arg(i), {}, {x, y + 48, 135, 18});
     }
-    label(this, "Label5", "Paole presenti", {12, 228, 100, 20});
+    label(this, "Label5", tr("Paole presenti"), {12, 228, 100, 20});
     m_totalLabel = label(this, "Label4", {}, {112, 228, 90, 20});
     m_totalLabel->setFont(tahoma(8.25, true));
-    m_status = label(this, "Label3", "In corso la lettura del dizionario ...", {12, 252, 580, 20});
+    m_status =
+        label(this, "Label3", tr("In corso la lettura del dizionario ..."), {12, 252, 580, 20});
     m_status->setAccessibleDescription(tr("Stato del dizionario"));
     m_progress = new ProgressBox(this);
     m_progress->setGeometry(12, 276, 580, 16);
@@ -101,12 +102,12 @@ void DictionaryEditorWindow::buildControls() {
     m_entry->setGeometry(12, 306, 135, 24);
     m_entry->setMaxLength(10);
     m_entry->installEventFilter(this);
-    m_insert = button(this, "Command3", "&Inserisci", {159, 305, 135, 26});
+    m_insert = button(this, "Command3", QT_TR_NOOP("&Inserisci"), {159, 305, 135, 26});
 
-    m_add = button(this, "Command1", "&Aggiungi parola", {12, 356, 135, 30});
-    m_delete = button(this, "Command5", "&Cancella parola", {159, 356, 135, 30});
-    m_rebuild = button(this, "Command4", "&Ricrea dizionario", {306, 356, 135, 30});
-    m_exit = button(this, "Command2", "&Uscita", {457, 356, 135, 30});
+    m_add = button(this, "Command1", QT_TR_NOOP("&Aggiungi parola"), {12, 356, 135, 30});
+    m_delete = button(this, "Command5", QT_TR_NOOP("&Cancella parola"), {159, 356, 135, 30});
+    m_rebuild = button(this, "Command4", QT_TR_NOOP("&Ricrea dizionario"), {306, 356, 135, 30});
+    m_exit = button(this, "Command2", QT_TR_NOOP("&Uscita"), {457, 356, 135, 30});
     for (QPushButton* b : {m_add, m_delete, m_rebuild})
         b->setEnabled(false);
 
@@ -130,8 +131,9 @@ void DictionaryEditorWindow::loadWords() {
     QApplication::setOverrideCursor(Qt::WaitCursor);
     m_stop = false;
     m_total = 0;
-    m_title->setText(QString::fromStdString("Il Griglione - Dizionario principale in " +
-                                            m_context.state.nomeDizionario));
+    m_title->setText(
+        tr("Il Griglione - Dizionario principale in %1")
+            .arg(QCoreApplication::translate("Options", m_context.state.nomeDizionario.c_str())));
     const DictionaryIndex& index = m_context.dictionary.index();
     DictionaryBlocks blocks(m_context.dictionary.dictionaryPath());
     for (int i = 0; i < kLists; ++i) {
@@ -232,28 +234,34 @@ void DictionaryEditorWindow::cancellaParola() {
     QComboBox* list = m_lists[m_current];
     const int row = list->currentIndex();
     if (row < 0) {
-        m_context.alerts.avviso("Selezionare prima una parola da eliminare dal dizionario.");
+        m_context.alerts.avviso(
+            tr("Selezionare prima una parola da eliminare dal dizionario.").toStdString());
         return;
     }
     const std::string word = list->currentText().toStdString();
-    if (!m_context.ask("Si desidera veramente eliminare la parola: " + word)) return;
+    if (!m_context.ask(tr("Si desidera veramente eliminare la parola: %1")
+                           .arg(QString::fromStdString(word))
+                           .toStdString()))
+        return;
     m_words[m_current]->removeRows(row, 1);
     list->setCurrentIndex(-1);
     countEdit(m_current, -1);
-    m_context.alerts.avviso("Parola eliminata, cliccare su 'Ricostruzione dizionario' per la "
-                            "ricostruzione effettiva del dizionario");
+    m_context.alerts.avviso(tr("Parola eliminata, cliccare su 'Ricostruzione dizionario' per la "
+                               "ricostruzione effettiva del dizionario")
+                                .toStdString());
 }
 
 void DictionaryEditorWindow::ricreaDizionario() {
     if (m_rebuilding || !m_loaded) return;
-    if (!m_context.ask("Attenzione non interrompere assolutamente la fase di creazione del "
-                       "dizionario! Si desidera veramente ricreare il dizionario principale?")) {
-        m_context.alerts.avviso("Operazione annulata.");
+    if (!m_context.ask(tr("Attenzione non interrompere assolutamente la fase di creazione del "
+                          "dizionario! Si desidera veramente ricreare il dizionario principale?")
+                           .toStdString())) {
+        m_context.alerts.avviso(tr("Operazione annulata.").toStdString());
         return;
     }
     m_rebuilding = true;
     m_exit->setEnabled(false);
-    setValueText(m_status, "In corso la scrittura del dizionario ...");
+    setValueText(m_status, tr("In corso la scrittura del dizionario ..."));
     m_context.yield();
     for (QLabel* count : m_counts)
         count->clear();
@@ -276,12 +284,14 @@ void DictionaryEditorWindow::ricreaDizionario() {
     const std::string notice =
         rebuiltNotice(path, "Il Griglione - Dizionario " + m_context.state.nomeDizionario);
     if (rebuildDictionary(m_context.folder, m_context.state.numDizionario, notice, words)) {
-        setValueText(m_status, "Dizionario riscritto correttamente");
+        setValueText(m_status, tr("Dizionario riscritto correttamente"));
     } else {
         // The old file is still whole and in place; the lists keep the changes for another try.
         setValueText(m_status, {});
-        m_context.alerts.avviso("Errore non e' possibile scrivere sul disco nella posizione: " +
-                                std::filesystem::absolute(m_context.folder).string());
+        m_context.alerts.avviso(
+            tr("Errore non e' possibile scrivere sul disco nella posizione: %1")
+                .arg(QString::fromStdString(std::filesystem::absolute(m_context.folder).string()))
+                .toStdString());
     }
     m_context.dictionary.prendidiz();
     m_context.files.closeAll();

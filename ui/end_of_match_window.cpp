@@ -39,7 +39,7 @@ EndOfMatchWindow::EndOfMatchWindow(QTimer& matchClock, QTimer& opponentClock, So
     : QDialog(parent), m_matchClock(matchClock), m_opponentClock(opponentClock), m_sounds(sounds),
       m_messages(messages), m_terminate(std::move(terminate)) {
     setObjectName("Form2");
-    setWindowTitle("Il Griglione - Tempo scaduto");
+    setWindowTitle(tr("Il Griglione - Tempo scaduto"));
     setFixedSize(px(6525), px(5475));
     setAutoFillBackground(true);
     QPalette palette = this->palette();
@@ -49,7 +49,7 @@ EndOfMatchWindow::EndOfMatchWindow(QTimer& matchClock, QTimer& opponentClock, So
     m_result = label(this, "Label1", "", 720, 120, 5400, 480);
     m_result->setFont(tahoma(14, true));
     setTextColour(m_result, QColor(128, 0, 0));
-    m_names[0] = label(this, "Label3_0", "Brivo (Umano)", 630, 780, 1680, 300);
+    m_names[0] = label(this, "Label3_0", tr("Brivo (Umano)"), 630, 780, 1680, 300);
     m_scores[0] = label(this, "Label4_0", "0", 2310, 720, 800, 360);
     m_scores[1] = label(this, "Label4_1", "0", 3150, 720, 800, 360);
     m_names[1] = label(this, "Label3_1", "(Computer)", 3990, 780, 2300, 300);
@@ -65,8 +65,8 @@ EndOfMatchWindow::EndOfMatchWindow(QTimer& matchClock, QTimer& opponentClock, So
     m_history->setFont(courier(9));
     m_history->setAccessibleName(tr("Partite giocate"));
 
-    label(this, "Label5", "STATISTICHE", 660, 3090, 2000, 300)->setFont(tahoma(8.25, true));
-    const char* headings[] = {"Vinte", "Perse", "Pareggi"};
+    label(this, "Label5", tr("STATISTICHE"), 660, 3090, 2000, 300)->setFont(tahoma(8.25, true));
+    const QString headings[] = {tr("Vinte"), tr("Perse"), tr("Pareggi")};
     const char* countNames[] = {"Label9", "Label10", "Label11"};
     const char* headingNames[] = {"Label6", "Label7", "Label8"};
     const int lefts[] = {630, 2430, 4200};
@@ -76,17 +76,17 @@ EndOfMatchWindow::EndOfMatchWindow(QTimer& matchClock, QTimer& opponentClock, So
         m_counts[i]->setFont(tahoma(10, true));
     }
 
-    label(this, "Label2", "Vuoi fare un'altra partitina?", 600, 4410, 3200, 400);
-    auto* ok = new QPushButton("&OK", this);
+    label(this, "Label2", tr("Vuoi fare un'altra partitina?"), 600, 4410, 3200, 400);
+    auto* ok = new QPushButton(tr("&OK"), this);
     ok->setObjectName("Command1");
     ok->setGeometry(twipsRect(3870, 4410, 960, 420));
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &EndOfMatchWindow::goOn);
-    auto* cancel = new QPushButton("&Annulla", this);
+    auto* cancel = new QPushButton(tr("&Annulla"), this);
     cancel->setObjectName("Command2");
     cancel->setGeometry(twipsRect(4890, 4410, 960, 420));
     connect(cancel, &QPushButton::clicked, this, [this] { m_terminate(); });
-    auto* review = new QPushButton("&Parole del tabellone", this);
+    auto* review = new QPushButton(tr("&Parole del tabellone"), this);
     review->setObjectName("Command3");
     review->setGeometry(twipsRect(3870, 4920, 1980, 420));
     review->setAutoDefault(false);

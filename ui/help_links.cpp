@@ -8,6 +8,7 @@
 #include "ui/menu_bar.h"
 #include "ui/twips.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPixmap>
@@ -38,12 +39,16 @@ HelpLinks::HelpLinks(QWidget* window, const MenuActions& menu, Outside& outside,
 }
 
 void HelpLinks::help() {
-    const std::filesystem::path file = resolveFileName(m_folder, kHelpFile);
+    // The page in the player's language, or the Italian one when that is missing.
+    const std::string page = QCoreApplication::translate("HelpLinks", kHelpFile).toStdString();
     std::error_code error;
-    if (std::filesystem::is_regular_file(file, error))
-        m_outside.apri(file.string());
-    else
-        m_alerts.avviso(std::string("Non trovato file di documentazione/help ") + kHelpFile);
+    for (const std::string& name : {page, std::string(kHelpFile)}) {
+        const std::filesystem::path file = resolveFileName(m_folder, name);
+        if (std::filesystem::is_regular_file(file, error)) return m_outside.apri(file.string());
+    }
+    m_alerts.avviso(tr("Non trovato file di documentazione/help %1")
+                        .arg(QString::fromStdString(page))
+                        .toStdString());
 }
 
 void HelpLinks::mail() {

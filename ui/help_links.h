@@ -17,7 +17,8 @@ class InformationWindow;
 class MessageHost;
 struct MenuActions;
 
-inline constexpr const char* kHelpFile = "GRIGLIONE.htm";
+//: The help page in this language, a file beside the game's own files.
+inline constexpr const char* kHelpFile = QT_TRANSLATE_NOOP("HelpLinks", "GRIGLIONE.htm");
 
 class HelpLinks final : public QObject {
     Q_OBJECT

@@ -83,41 +83,40 @@ InformationWindow::InformationWindow(const QPixmap& picture, MessageHost& messag
     m_picture->installEventFilter(this);
 
     text(this, "Label1", "Il Griglione", {208, 20, 368, 40}, tahoma(20, true));
-    text(this, "Label2", "Versione 3.1.0", {210, 62, 366, 22}, tahoma(10, true));
+    text(this, "Label2", tr("Versione 3.1.0"), {210, 62, 366, 22}, tahoma(10, true));
     text(this, "Label4",
-         QString::fromUtf8("Gioco di parole su una griglia di 5 × 5 dadi con lettere, "
-                           "contro il computer."),
+         tr("Gioco di parole su una griglia di 5 × 5 dadi con lettere, "
+            "contro il computer."),
          {210, 88, 366, 36}, tahoma(9));
     text(this, "Label5",
-         QString::fromUtf8(
-             "Ideazione e programmazione: Brivo.\n\n"
-             "Trova più parole del computer prima che scada il tempo: le parole lunghe valgono "
-             "molto di più. Quattro avversari ti aspettano, da Birillo, che gioca con calma, a "
-             "Sapienzo, che non perdona.\n\n"
-             "Dizionari italiano, inglese e latino ricavati da elenchi di parole liberi "
-             "(witalian, hunspell-it, SCOWL e il dizionario latino di Karl Zeiler), con le loro "
-             "licenze. "
-             "Dadi, logo e suoni disegnati e composti apposta per Il Griglione.\n\n"
-             "Grazie a chi gioca e segnala le parole che mancano."),
+         tr("Ideazione e programmazione: Brivo.\n\n"
+            "Trova più parole del computer prima che scada il tempo: le parole lunghe valgono "
+            "molto di più. Quattro avversari ti aspettano, da Birillo, che gioca con calma, a "
+            "Sapienzo, che non perdona.\n\n"
+            "Dizionari italiano, inglese e latino ricavati da elenchi di parole liberi "
+            "(witalian, hunspell-it, SCOWL e il dizionario latino di Karl Zeiler), con le loro "
+            "licenze. "
+            "Dadi, logo e suoni disegnati e composti apposta per Il Griglione.\n\n"
+            "Grazie a chi gioca e segnala le parole che mancano."),
          {24, 132, 552, 150}, tahoma(9));
 
     m_site = link("Label6", QString::fromUtf8(kSitoWebTesto),
-                  "Clicca per visitare la \"Brivo home page\"", 290);
+                  tr("Clicca per visitare la \"Brivo home page\""), 290);
     m_site->setCursor(linkCursor());
     m_mail = link("Label3", QString::fromUtf8(kEmailAutore),
-                  "Clicca per mandare una mail all'autore", 316);
+                  tr("Clicca per mandare una mail all'autore"), 316);
     m_mail->setCursor(iconCursor());
 
     auto* flag = new QLabel(this);
     flag->setObjectName("Picture1");
     flag->setGeometry(24, 348, 36, 24);
     flag->setPixmap(italianFlag(flag->size()));
-    flag->setToolTip("Software Italiano");
+    flag->setToolTip(tr("Software Italiano"));
     flag->setAccessibleName(tr("Software Italiano"));
 
-    auto* ok = new QPushButton("&OK", this);
+    auto* ok = new QPushButton(tr("&OK"), this);
     ok->setObjectName("Command3d1");
-    ok->setToolTip("Fatto");
+    ok->setToolTip(tr("Fatto"));
     ok->setGeometry(twipsRect(6420, 4800, 2400, 825));
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, [this] {

@@ -3,6 +3,7 @@
 #include "platform/event_yield.h"
 #include "platform/fonts.h"
 #include "platform/game_folder.h"
+#include "platform/interface_translation.h"
 #include "platform/outside_opener.h"
 #include "platform/sound_player.h"
 #include "platform/system_clock.h"
@@ -18,6 +19,7 @@ int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     // Every file of the game is found by its bare name in the folder it works in.
     griglione::settleGameFolder(QCoreApplication::applicationDirPath());
+    griglione::useInterfaceLanguage(griglione::systemInterfaceLanguage(), ".");
     griglione::registerFonts();
     QApplication::setFont(griglione::tahoma(8.25));
 

@@ -168,11 +168,11 @@ void MainWindow::buildControls() {
     const auto at = [d](int left, int top, int width, int height) {
         return twipsRect(left + d, top, width, height);
     };
-    label(area, "Label2", "Parola composta", at(5340, 45, 1995, 195), Qt::white, kBlue);
+    label(area, "Label2", tr("Parola composta"), at(5340, 45, 1995, 195), Qt::white, kBlue);
     m_word = label(area, "Label1", "", at(5340, 270, 1995, 330), Qt::black, QColor(255, 255, 192));
     m_word->setFont(tahoma(12));
     auto* ok = pictureButton(
-        area, "Command2", "&OK", at(5340, 660, 984, 915),
+        area, "Command2", tr("&OK"), at(5340, 660, 984, 915),
         QString::fromStdString(resolveFileName(m_services.folder, "okbutton.gif").string()));
     connect(ok, &QToolButton::clicked, this, [this] { m_submission->inviaParola(); });
     m_keys->watch(ok);
@@ -180,7 +180,7 @@ void MainWindow::buildControls() {
     // move the focus. Enter submits the word anyway.
     ok->setShortcut(QKeySequence());
     auto* clear = pictureButton(
-        area, "Command1", "&Azzera ", at(6360, 660, 984, 915),
+        area, "Command1", tr("&Azzera "), at(6360, 660, 984, 915),
         QString::fromStdString(resolveFileName(m_services.folder, "azzera.gif").string()));
     connect(clear, &QToolButton::clicked, this, [this] { m_board.azzera(); });
     m_keys->watch(clear);
@@ -190,7 +190,7 @@ void MainWindow::buildControls() {
     m_timeBar->setGeometry(at(5340, 1710, 1632, 300));
     m_seconds = label(area, "Label4", "", at(6990, 1770, 300, 225), Qt::white, kRed);
 
-    label(area, "Label6", "Giocatore", at(5325, 2115, 720, 300), Qt::white, kDarkGreen);
+    label(area, "Label6", tr("Giocatore"), at(5325, 2115, 720, 300), Qt::white, kDarkGreen);
     m_playerName = new QLineEdit("BRIVO", area);
     m_playerName->setObjectName("Text1");
     m_playerName->setGeometry(at(6120, 2130, 1188, 252));
@@ -198,7 +198,7 @@ void MainWindow::buildControls() {
     m_playerName->installEventFilter(this);
 
     // The two headings overlap by a few pixels: this one keeps its text clear of the other.
-    label(area, "Label5", "Trovate da te", at(5295, 2505, 1050, 195), Qt::white, kBlue)
+    label(area, "Label5", tr("Trovate da te"), at(5295, 2505, 1050, 195), Qt::white, kBlue)
         ->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     label(area, "Label9", "Tobia (CPU)", at(6300, 2505, 1050, 195), Qt::white, kDarkGrey);
     m_playerWords = wordList(area, "List1", at(5295, 2685, 1020, 1590), Qt::cyan);
@@ -206,12 +206,12 @@ void MainWindow::buildControls() {
     m_keys->watch(m_playerWords);
     m_keys->watch(m_cpuWords);
     m_playerScore = label(area, "Label10", "0", at(5295, 4320, 555, 225), Qt::white, kBlue);
-    label(area, "Label7", "Punti", at(6022, 4320, 555, 225), Qt::white, kRed);
+    label(area, "Label7", tr("Punti"), at(6022, 4320, 555, 225), Qt::white, kRed);
     m_cpuScore = label(area, "Label11", "0", at(6750, 4320, 555, 225), Qt::white, kDarkGrey);
 
     auto* link = label(area, "Label12", kSitoWebTesto, twipsRect(5295 + d, 4590, 1995, 255),
                        QColor(255, 255, 128), kDarkGreen);
-    link->setToolTip("Visita il sito dell'autore");
+    link->setToolTip(tr("Visita il sito dell'autore"));
     m_cpuAttempt = label(area, "Label8", "", at(5340, 4860, 1950, 225), Qt::white, kDarkGreen);
     m_cpuAttempt->hide();
 
@@ -282,7 +282,9 @@ void MainWindow::aggMenudiz() {
     if (m_state.numDizionario == 3) language = 2;
     checkOnly(m_menu.lingue, language);
     m_state.nomeDizionario = std::string(kLanguages[language].nome);
-    setWindowTitle(QString::fromStdString("Il Griglione - Dizionario " + m_state.nomeDizionario));
+    setWindowTitle(
+        tr("Il Griglione - Dizionario %1")
+            .arg(QCoreApplication::translate("Options", kLanguages[language].nome.data())));
     m_dictionary.prendidiz();
 }
 
@@ -304,7 +306,8 @@ void MainWindow::focusBoard() {
 void MainWindow::showRules() {
     const std::string& rules = m_rules.text(m_services.alerts);
     if (m_playerName->isVisible()) m_playerName->setFocus();
-    m_state.messaggio = {"INFO!", "Informazioni dizionario", rules};
+    m_state.messaggio = {tr("INFO!").toStdString(), tr("Informazioni dizionario").toStdString(),
+                         rules};
     m_messages.mostraMessaggio(m_state.messaggio, false);
 }
 

@@ -126,9 +126,9 @@ MessageWindow::MessageWindow(const Messaggio& messaggio, QWidget* parent) : QDia
     body->setAccessibleName(tr("Messaggio"));
     frame->setAccessibleName(title);
 
-    auto* ok = new QPushButton("&OK", this);
+    auto* ok = new QPushButton(tr("&OK"), this);
     ok->setObjectName("Command3d1");
-    ok->setToolTip("OK, fatto");
+    ok->setToolTip(tr("OK, fatto"));
     ok->setGeometry(twipsRect(690, 4050, 4665, 1035));
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QDialog::close);

@@ -5,6 +5,7 @@
 #include "core/levels.h"
 #include "ui/name_validator.h"
 
+#include <QCoreApplication>
 #include <QLineEdit>
 #include <QTimer>
 
@@ -66,7 +67,10 @@ void OptionsFlow::salvaImpostazioni() {
     if (!writeFileAtomically(resolveFileName(m_folder, kSettingsFileName),
                              settingsFileBytes(currentSettings())))
         m_alerts.avviso(
-            "Errore 001: impossibile riscivere il file di inizializzazione ZARMOLO.INI");
+            QCoreApplication::translate(
+                "OptionsFlow",
+                "Errore 001: impossibile riscivere il file di inizializzazione ZARMOLO.INI")
+                .toStdString());
 }
 
 std::array<bool, 4> OptionsFlow::levelChecks() const {

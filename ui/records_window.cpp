@@ -55,7 +55,7 @@ RecordsWindow::RecordsWindow(std::function<void(const QString&, const QString&)>
                              std::function<void()> closing, QWidget* parent)
     : QDialog(parent), m_submit(std::move(submit)), m_closing(std::move(closing)) {
     setObjectName("Form4");
-    setWindowTitle("Il Griglione - Hiscores Table");
+    setWindowTitle(tr("Il Griglione - Hiscores Table"));
     setAttribute(Qt::WA_DeleteOnClose);
     setFixedSize(px(6150), px(6135));
     setAutoFillBackground(true);
@@ -68,13 +68,13 @@ RecordsWindow::RecordsWindow(std::function<void(const QString&, const QString&)>
 }
 
 void RecordsWindow::buildControls() {
-    label(this, "Label3", "Il Griglione : I migliori punteggi", twipsRect(390, 60, 5400, 435),
+    label(this, "Label3", tr("Il Griglione : I migliori punteggi"), twipsRect(390, 60, 5400, 435),
           kLinkYellow)
         ->setFont(tahoma(14, true));
     m_first = label(this, "Label1", "Brivo The Best", twipsRect(390, 555, 3600, 375), Qt::white);
     m_first->setFont(tahoma(12, true));
     m_first->setAccessibleDescription(tr("Primo in classifica"));
-    m_theBest = label(this, "Label2", "The Best", twipsRect(390, 930, 1500, 375), kGold);
+    m_theBest = label(this, "Label2", tr("The Best"), twipsRect(390, 930, 1500, 375), kGold);
     m_theBest->setFont(tahoma(12, true));
     m_theBest->installEventFilter(this);
 
@@ -84,38 +84,39 @@ void RecordsWindow::buildControls() {
     m_table->setFont(courier(8));
     m_table->setAccessibleName(tr("Tabella records"));
 
-    auto* close = new QPushButton("&Chiudi", this);
+    auto* close = new QPushButton(tr("&Chiudi"), this);
     close->setObjectName("Command1");
     close->setGeometry(twipsRect(4230, 570, 1335, 375));
-    close->setToolTip("Torna al gioco.");
+    close->setToolTip(tr("Torna al gioco."));
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &QDialog::close);
 
     auto* explanation =
         label(this, "Label5",
-              QString::fromUtf8("Se hai fatto il record massimo puoi cliccare il link sottostante, "
-                                "verrà aperta una finestra del browser che ti consentirà di "
-                                "pubblicare nella Rete il tuo risultato (Compila anche il campo "
-                                "E-Mail)."),
+              tr("Se hai fatto il record massimo puoi cliccare il link sottostante, "
+                 "verrà aperta una finestra del browser che ti consentirà di "
+                 "pubblicare nella Rete il tuo risultato (Compila anche il campo "
+                 "E-Mail)."),
               twipsRect(420, 4650, 5610, 510), Qt::white);
     explanation->setWordWrap(true);
     explanation->setFont(tahoma(7.5));
     auto* emailCaption =
-        label(this, "Label4", "Mia E-Mail:", twipsRect(420, 5190, 825, 255), Qt::white);
+        label(this, "Label4", tr("Mia E-Mail:"), twipsRect(420, 5190, 825, 255), Qt::white);
     m_email = textBox(this, "Text2", "", twipsRect(1260, 5160, 2520, 285));
     m_email->setAccessibleName(tr("Mia E-Mail"));
-    m_email->setPlaceholderText("nome@dominio.it");
+    m_email->setPlaceholderText(tr("nome@dominio.it"));
     auto* notesCaption =
-        label(this, "Label6", "Note sul punteggio:", twipsRect(450, 5490, 795, 435), Qt::white);
+        label(this, "Label6", tr("Note sul punteggio:"), twipsRect(450, 5490, 795, 435), Qt::white);
     notesCaption->setWordWrap(true);
     m_notes = textBox(this, "Text1", "Sono il migliore", twipsRect(1260, 5580, 2520, 285));
     m_notes->setAccessibleName(tr("Note sul punteggio"));
-    m_link = label(this, "Label7", "Registra record in Internet", twipsRect(3870, 5580, 2250, 285),
-                   kLinkYellow);
+    m_link = label(this, "Label7", tr("Registra record in Internet"),
+                   twipsRect(3870, 5580, 2250, 285), kLinkYellow);
     QFont underlined = m_link->font();
     underlined.setUnderline(true);
     m_link->setFont(underlined);
-    m_link->setToolTip("Clicca per registrare questo punteggio nella tabella mondiale su Internet");
+    m_link->setToolTip(
+        tr("Clicca per registrare questo punteggio nella tabella mondiale su Internet"));
     m_link->setCursor(linkCursor());
     m_link->setFocusPolicy(Qt::StrongFocus);
     // A label draws no focus frame of its own; the keyboard user must see where Enter goes.

@@ -33,14 +33,14 @@ QString points(std::int32_t n) {
 }
 
 QString words(std::size_t n) {
-    return n == 1 ? QStringLiteral("1 parola") : QStringLiteral("%1 parole").arg(n);
+    return n == 1 ? ReviewWindow::tr("1 parola") : ReviewWindow::tr("%1 parole").arg(n);
 }
 
 } // namespace
 
 ReviewWindow::ReviewWindow(QWidget* parent) : QDialog(parent) {
     setObjectName("Form10");
-    setWindowTitle("Il Griglione - Parole del tabellone");
+    setWindowTitle(tr("Il Griglione - Parole del tabellone"));
     setFixedSize(kWidth, kHeight);
     setAutoFillBackground(true);
     QPalette palette = this->palette();
@@ -63,7 +63,7 @@ void ReviewWindow::load(const GameState& state, const std::filesystem::path& fol
                                state.paroleCPU);
     }
     m_total->setText(
-        QStringLiteral("Il tabellone nascondeva %1 per %2 punti in tutto.")
+        tr("Il tabellone nascondeva %1 per %2 punti in tutto.")
             .arg(words(static_cast<std::size_t>(m_review.words)), points(m_review.points)));
     for (int n = 0; n < kCells; ++n) {
         const auto file = resolveFileName(folder, state.immagineCella[n]);
@@ -136,7 +136,7 @@ void ReviewWindow::buildLists() {
                 [this, i](int row) { wordChosen(i, row); });
     }
     const int buttonsTop = kHeight - kMargin - 28;
-    auto* all = new QPushButton("&Tutte", this);
+    auto* all = new QPushButton(tr("&Tutte"), this);
     all->setObjectName("Command1");
     all->setGeometry(kListsLeft, buttonsTop, 100, 28);
     all->setAutoDefault(false);
@@ -144,7 +144,7 @@ void ReviewWindow::buildLists() {
         m_filter = -1;
         showWords();
     });
-    m_close = new QPushButton("&Chiudi", this);
+    m_close = new QPushButton(tr("&Chiudi"), this);
     m_close->setObjectName("Command2");
     m_close->setGeometry(kWidth - kMargin - 100, buttonsTop, 100, 28);
     m_close->setDefault(true);
@@ -153,7 +153,7 @@ void ReviewWindow::buildLists() {
 
 void ReviewWindow::showWords() {
     const ReviewList* lists[] = {&m_review.player, &m_review.cpu, &m_review.missed};
-    const char* titles[] = {"&Le tue parole", "Parole della C&PU", "Parole &mancate"};
+    const QString titles[] = {tr("&Le tue parole"), tr("Parole della C&PU"), tr("Parole &mancate")};
     for (std::size_t i = 0; i < 3; ++i) {
         m_shown[i] = throughCell(*lists[i], m_filter);
         std::int32_t shownPoints = 0;
@@ -165,18 +165,19 @@ void ReviewWindow::showWords() {
                                     .arg(QString::fromStdString(entry->word), -10)
                                     .arg(entry->points, 5));
         }
-        m_headings[i]->setText(QStringLiteral("%1\n%2, %3 punti")
-                                   .arg(titles[i], words(m_shown[i].size()), points(shownPoints)));
+        m_headings[i]->setText(
+            tr("%1\n%2, %3 punti").arg(titles[i], words(m_shown[i].size()), points(shownPoints)));
     }
     if (m_filter < 0) {
         m_marker->hide();
-        m_hint->setText("Clicca una parola per vederne il percorso, un dado per vedere solo le "
-                        "parole che lo attraversano.");
+        m_hint->setText(tr("Clicca una parola per vederne il percorso, un dado per vedere solo le "
+                           "parole che lo attraversano."));
     } else {
         m_marker->move(4 + (m_filter % kBoardSide) * kDie, 4 + (m_filter / kBoardSide) * kDie);
         m_marker->show();
-        m_hint->setText("Solo le parole che passano per il dado evidenziato: cliccalo di nuovo, o "
-                        "\"Tutte\", per vederle tutte.");
+        m_hint->setText(
+            tr("Solo le parole che passano per il dado evidenziato: cliccalo di nuovo, o "
+               "\"Tutte\", per vederle tutte."));
     }
     drawPath({});
 }

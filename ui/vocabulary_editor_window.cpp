@@ -18,14 +18,14 @@ namespace griglione {
 namespace {
 
 QPushButton* button(QWidget* parent, const char* name, const char* caption, const QRect& at) {
-    auto* b = new QPushButton(QString::fromUtf8(caption), parent);
+    auto* b = new QPushButton(VocabularyEditorWindow::tr(caption), parent);
     b->setObjectName(name);
     b->setGeometry(at);
     return b;
 }
 
 QLabel* label(QWidget* parent, const char* name, const char* text, const QRect& at) {
-    auto* l = new QLabel(QString::fromUtf8(text), parent);
+    auto* l = new QLabel(VocabularyEditorWindow::tr(text), parent);
     l->setObjectName(name);
     l->setGeometry(at);
     l->setWordWrap(true);
@@ -47,10 +47,10 @@ std::string folderName(const std::filesystem::path& folder) {
 VocabularyEditorWindow::VocabularyEditorWindow(EditorContext context, QWidget* parent)
     : QDialog(parent), m_context(std::move(context)) {
     setObjectName("Form5");
-    setWindowTitle("Edit vocabolario personale");
+    setWindowTitle(tr("Edit vocabolario personale"));
     setFixedSize(430, 340);
 
-    label(this, "Label3", "Parole già inserite:", {12, 10, 190, 18});
+    label(this, "Label3", QT_TR_NOOP("Parole già inserite:"), {12, 10, 190, 18});
     m_words = new QListWidget(this);
     m_words->setObjectName("List1");
     m_words->setGeometry(12, 30, 190, 296);
@@ -58,23 +58,23 @@ VocabularyEditorWindow::VocabularyEditorWindow(EditorContext context, QWidget* p
     m_words->setAccessibleName(tr("Parole già inserite"));
 
     m_hint = label(this, "Label2",
-                   "Cliccare su <Nuova parola> per aggiungere una parola al vocabolario "
-                   "personale utilizzabile all'interno del gioco",
+                   QT_TR_NOOP("Cliccare su <Nuova parola> per aggiungere una parola al vocabolario "
+                              "personale utilizzabile all'interno del gioco"),
                    {218, 30, 200, 80});
     m_hint->setTextFormat(Qt::PlainText);
-    m_prompt = label(this, "Label1", "Digita nuova parola:", {218, 30, 200, 18});
+    m_prompt = label(this, "Label1", QT_TR_NOOP("Digita nuova parola:"), {218, 30, 200, 18});
     m_entry = new QLineEdit(this);
     m_entry->setObjectName("Text1");
     m_entry->setAccessibleName(tr("Digita nuova parola"));
     m_entry->setGeometry(218, 50, 200, 24);
     m_entry->setMaxLength(10);
     m_entry->installEventFilter(this);
-    m_confirm = button(this, "Command3d4", "Con&ferma", {218, 80, 200, 28});
+    m_confirm = button(this, "Command3d4", QT_TR_NOOP("Con&ferma"), {218, 80, 200, 28});
 
-    m_new = button(this, "Command3d2", "&Nuova parola", {218, 126, 200, 30});
-    m_delete = button(this, "Command3d3", "&Cancella parola", {218, 162, 200, 30});
-    auto* help = button(this, "Command3d5", "&Help", {218, 198, 200, 30});
-    m_back = button(this, "Command3d1", "&Torna al gioco", {218, 296, 200, 30});
+    m_new = button(this, "Command3d2", QT_TR_NOOP("&Nuova parola"), {218, 126, 200, 30});
+    m_delete = button(this, "Command3d3", QT_TR_NOOP("&Cancella parola"), {218, 162, 200, 30});
+    auto* help = button(this, "Command3d5", QT_TR_NOOP("&Help"), {218, 198, 200, 30});
+    m_back = button(this, "Command3d1", QT_TR_NOOP("&Torna al gioco"), {218, 296, 200, 30});
     for (QPushButton* b : {m_confirm, m_new, m_delete, help, m_back})
         b->setAutoDefault(false);
 
@@ -177,7 +177,8 @@ void VocabularyEditorWindow::help() {
             m_rules = *text;
         else
             m_context.alerts.avviso(
-                "ERRORE 0001: File contenente le regole sulle parole non trovato: REGPAROL.TCT");
+                tr("ERRORE 0001: File contenente le regole sulle parole non trovato: REGPAROL.TCT")
+                    .toStdString());
     }
     m_context.alerts.avviso(m_rules);
 }
@@ -190,8 +191,10 @@ void VocabularyEditorWindow::tornaAlGioco() {
     const auto file = resolveFileName(m_context.folder,
                                       personalVocabularyFileName(m_context.state.numDizionario));
     if (!writeFileAtomically(file, personalVocabularyBytes(words))) {
-        m_context.alerts.avviso("Errore non e' possibile scrivere sul disco nella posizione: " +
-                                folderName(m_context.folder) + " - Il programma verra' terminato.");
+        m_context.alerts.avviso(tr("Errore non e' possibile scrivere sul disco nella posizione: "
+                                   "%1 - Il programma verra' terminato.")
+                                    .arg(QString::fromStdString(folderName(m_context.folder)))
+                                    .toStdString());
         m_context.terminate();
     }
     accept();

@@ -2,7 +2,7 @@
 # configure and build with the default preset.
 
 BUILD_PACKAGES=(cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev libgtest-dev libgmock-dev
-    fonts-wine fonts-liberation pkg-config libcpp-httplib-dev libsqlite3-dev)
+    qt6-tools-dev qt6-l10n-tools fonts-wine fonts-liberation pkg-config libcpp-httplib-dev libsqlite3-dev)
 
 install_missing() {
     local missing=()

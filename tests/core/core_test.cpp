@@ -2,10 +2,12 @@
 #include "core/atomic_file.h"
 #include "core/end_of_match.h"
 #include "core/file_names.h"
+#include "core/interface_language.h"
 #include "core/letter_flash.h"
 #include "core/match_clock.h"
 #include "core/mixing_random.h"
 #include "core/number_text.h"
+#include "core/player_text.h"
 #include "core/settings.h"
 #include "core/switched_sounds.h"
 #include "tests/support/fakes.h"
@@ -151,6 +153,27 @@ TEST_F(FileSearchTest, ReadsFromThePlayerThenTheDataAndWritesOnlyIntoThePlayersF
     EXPECT_EQ(readWholeFile(player / "zarMolo.HIS"), "A, 1 \r\nB, 2 \r\n");
     EXPECT_EQ(readWholeFile(data / "SLESSICO.1"), "shipped");
     EXPECT_EQ(readWholeFile(data / "zarMolo.HIS"), "A, 1 \r\n");
+}
+
+// The interface language: the first of Italian and English in the system's order of preference,
+// whatever the region and encoding; English for any other language and for none at all.
+
+TEST(InterfaceLanguage, FollowsTheFirstOfItalianAndEnglishThatTheSystemNames) {
+    using enum InterfaceLanguage;
+    const std::pair<std::vector<std::string>, InterfaceLanguage> cases[] = {
+        {{"it_CH.UTF-8"}, Italian},    {{"en-GB", "it-IT"}, English}, {{"it", "en-US"}, Italian},
+        {{"de-DE", "de"}, English},    {{"de", "it@euro"}, Italian},  {{}, English},
+        {{"iu", "itx", "en"}, English}};
+    for (const auto& [preferred, language] : cases)
+        EXPECT_EQ(chooseInterfaceLanguage(preferred), language)
+            << ::testing::PrintToString(preferred);
+}
+
+// A translated pattern takes its arguments in one pass: an argument is never read as a
+// placeholder, and what is not a placeholder of a given argument stays as written.
+TEST(PlayerText, FillsPlaceholdersOnceAndLeavesTheRest) {
+    EXPECT_EQ(withArgs("%2 e %1: %1", {"a%2", "b"}), "b e a%2: a%2");
+    EXPECT_EQ(withArgs("100% %3 %0 %", {"x"}), "100% %3 %0 %");
 }
 
 // The message window's headline: which letter changes at each step and to which colours.

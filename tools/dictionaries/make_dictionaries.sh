@@ -119,6 +119,9 @@ done
 
 echo "== Word rules"
 # Windows-1252 with CR LF after every line, as the game reads its text files.
-iconv -f UTF-8 -t WINDOWS-1252 "$here/regparol.txt.in" | sed 's/$/\r/' >"$work/REGPAROL.TXT"
-mv "$work/REGPAROL.TXT" "$data/REGPAROL.TXT"
-echo "$data/REGPAROL.TXT: $(wc -l <"$data/REGPAROL.TXT") lines"
+# The English rules go with the English interface.
+for rules in REGPAROL.TXT:regparol.txt.in REGPAROL_en.TXT:regparol_en.txt.in; do
+    iconv -f UTF-8 -t WINDOWS-1252 "$here/${rules#*:}" | sed 's/$/\r/' >"$work/${rules%%:*}"
+    mv "$work/${rules%%:*}" "$data/${rules%%:*}"
+    echo "$data/${rules%%:*}: $(wc -l <"$data/${rules%%:*}") lines"
+done

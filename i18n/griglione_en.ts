@@ -1,0 +1,791 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="it">
+<context>
+    <name>AlertBoxes</name>
+    <message>
+        <source>Annulla</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>BoardGame</name>
+    <message>
+        <source>Lettera non adiacente</source>
+        <translation>Die does not touch</translation>
+    </message>
+    <message>
+        <source>Attenzione : La lettera deve essere adiacente a quella cliccata in precedenza! Per scrivere una nuova parola cliccare il pulsante &lt;Azzera&gt;</source>
+        <translation>Watch out: the die must touch the one you clicked before! To write a new word, click the &lt;Clear&gt; button.</translation>
+    </message>
+    <message>
+        <source>OOPS!</source>
+        <translation>OOPS!</translation>
+    </message>
+</context>
+<context>
+    <name>Dictionary</name>
+    <message>
+        <source>Errore fatale! non trovato file di vocabolario: SLESSICO.%1</source>
+        <translation>Fatal error! Dictionary file not found: SLESSICO.%1</translation>
+    </message>
+    <message>
+        <source>Errore 0002: Non trovato file di vocabolario SLESSICO.%1</source>
+        <translation>Error 0002: Dictionary file SLESSICO.%1 not found</translation>
+    </message>
+</context>
+<context>
+    <name>EndOfMatch</name>
+    <message>
+        <source>Ha vinto %1</source>
+        <translation>%1 wins</translation>
+    </message>
+    <message>
+        <source>Ha vinto %1!</source>
+        <translation>%1 wins!</translation>
+    </message>
+    <message>
+        <source>Partita PARI!</source>
+        <translation>It&apos;s a DRAW!</translation>
+    </message>
+</context>
+<context>
+    <name>HelpLinks</name>
+    <message>
+        <source>GRIGLIONE.htm</source>
+        <extracomment>The help page in this language, a file beside the game&apos;s own files.</extracomment>
+        <translation>GRIGLIONE_en.htm</translation>
+    </message>
+</context>
+<context>
+    <name>MatchClock</name>
+    <message>
+        <source>Inizio partita</source>
+        <translation>Match start</translation>
+    </message>
+    <message>
+        <source>Si inizia una nuova partita di %1 secondi.<byte value="xd"/>
+Il dizionario usato è : %2<byte value="xd"/>
+Il livello dell&apos;avversario è : %3<byte value="xd"/>
+Cliccare il pulsante &lt;OK&gt; per giocare.</source>
+        <translation>A new match of %1 seconds begins.<byte value="xd"/>
+Dictionary in use: %2<byte value="xd"/>
+Opponent level: %3<byte value="xd"/>
+Click the &lt;OK&gt; button to play.</translation>
+    </message>
+    <message>
+        <source>START</source>
+        <extracomment>The message window&apos;s headline: five letters, each shown in a box of its own.</extracomment>
+        <translation>START</translation>
+    </message>
+</context>
+<context>
+    <name>MenuBar</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Nuova Partita</source>
+        <translation>&amp;New Match</translation>
+    </message>
+    <message>
+        <source>&amp;Tabella records ...</source>
+        <translation>&amp;Record Table ...</translation>
+    </message>
+    <message>
+        <source>&amp;Edit vocabolario personale ...</source>
+        <translation>&amp;Edit Personal Vocabulary ...</translation>
+    </message>
+    <message>
+        <source>&amp;Vocabolario principale ...</source>
+        <translation>&amp;Main Dictionary ...</translation>
+    </message>
+    <message>
+        <source>&amp;Fine</source>
+        <translation>E&amp;xit</translation>
+    </message>
+    <message>
+        <source>&amp;Opzioni</source>
+        <translation>&amp;Options</translation>
+    </message>
+    <message>
+        <source>&amp;Suono</source>
+        <translation>&amp;Sound</translation>
+    </message>
+    <message>
+        <source>&amp;Lingua dizionario</source>
+        <translation>Dictionary &amp;Language</translation>
+    </message>
+    <message>
+        <source>&amp;Livello di gioco</source>
+        <translation>&amp;Opponent Level</translation>
+    </message>
+    <message>
+        <source>&amp;Tempo per partita</source>
+        <translation>Match &amp;Time</translation>
+    </message>
+    <message>
+        <source>S&amp;pessore linea blu composizione parola</source>
+        <translation>Blue Word Line &amp;Width</translation>
+    </message>
+    <message>
+        <source>&amp;Parole ammesse</source>
+        <translation>&amp;Allowed Words</translation>
+    </message>
+    <message>
+        <source>&amp;?</source>
+        <translation>&amp;?</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>&amp;Contatta l&apos;autore ...</source>
+        <translation>&amp;Contact the Author ...</translation>
+    </message>
+    <message>
+        <source>&amp;Visita Home Page dell&apos;autore ...</source>
+        <translation>&amp;Visit the Author&apos;s Home Page ...</translation>
+    </message>
+    <message>
+        <source>&amp;Informazioni su &apos;Il Griglione&apos; ...</source>
+        <translation>&amp;About &apos;Il Griglione&apos; ...</translation>
+    </message>
+</context>
+<context>
+    <name>NumberText</name>
+    <message>
+        <source>.</source>
+        <extracomment>The thousands separator of scores and word counts.</extracomment>
+        <translation>,</translation>
+    </message>
+</context>
+<context>
+    <name>Options</name>
+    <message>
+        <source>&amp;Junior (Birillo)</source>
+        <translation>&amp;Junior (Birillo)</translation>
+    </message>
+    <message>
+        <source>Junior (Birillo)</source>
+        <translation>Junior (Birillo)</translation>
+    </message>
+    <message>
+        <source>&amp;Principiante (Tapo)</source>
+        <translation>&amp;Beginner (Tapo)</translation>
+    </message>
+    <message>
+        <source>Principiante (Tapo)</source>
+        <translation>Beginner (Tapo)</translation>
+    </message>
+    <message>
+        <source>&amp;Medio (Memo)</source>
+        <translation>&amp;Intermediate (Memo)</translation>
+    </message>
+    <message>
+        <source>Medio (Memo)</source>
+        <translation>Intermediate (Memo)</translation>
+    </message>
+    <message>
+        <source>&amp;Esperto (Sapienzo)</source>
+        <translation>&amp;Expert (Sapienzo)</translation>
+    </message>
+    <message>
+        <source>Esperto (Sapienzo)</source>
+        <translation>Expert (Sapienzo)</translation>
+    </message>
+    <message>
+        <source>&amp;60 Secondi</source>
+        <translation>&amp;60 Seconds</translation>
+    </message>
+    <message>
+        <source>&amp;90 Secondi</source>
+        <translation>&amp;90 Seconds</translation>
+    </message>
+    <message>
+        <source>&amp;2 Minuti</source>
+        <translation>&amp;2 Minutes</translation>
+    </message>
+    <message>
+        <source>&amp;5 minuti</source>
+        <translation>&amp;5 Minutes</translation>
+    </message>
+    <message>
+        <source>&amp;Stretta</source>
+        <translation>&amp;Narrow</translation>
+    </message>
+    <message>
+        <source>&amp;Media</source>
+        <translation>&amp;Medium</translation>
+    </message>
+    <message>
+        <source>&amp;Larga</source>
+        <translation>&amp;Wide</translation>
+    </message>
+    <message>
+        <source>&amp;Italiano</source>
+        <translation>&amp;Italian</translation>
+    </message>
+    <message>
+        <source>Italiano</source>
+        <translation>Italian</translation>
+    </message>
+    <message>
+        <source>&amp;English</source>
+        <translation>&amp;English</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>&amp;Latino</source>
+        <translation>&amp;Latin</translation>
+    </message>
+    <message>
+        <source>Latino</source>
+        <translation>Latin</translation>
+    </message>
+</context>
+<context>
+    <name>OptionsFlow</name>
+    <message>
+        <source>Errore 001: impossibile riscivere il file di inizializzazione ZARMOLO.INI</source>
+        <translation>Error 001: cannot rewrite the settings file ZARMOLO.INI</translation>
+    </message>
+</context>
+<context>
+    <name>PersonalVocabulary</name>
+    <message>
+        <source>Errore 0003: impossibile scrivere il file del vocabolario personale %1, la parola non è stata salvata</source>
+        <translation>Error 0003: cannot write the personal vocabulary file %1; the word was not saved</translation>
+    </message>
+</context>
+<context>
+    <name>RecordTable</name>
+    <message>
+        <source> N. - Giocatore    -  Punti</source>
+        <translation> N. - Player       -  Score</translation>
+    </message>
+</context>
+<context>
+    <name>RulesText</name>
+    <message>
+        <source>ERRORE 0001: File contenente le regole sulle parole non trovato: %1</source>
+        <translation>ERROR 0001: Word rules file not found: %1</translation>
+    </message>
+    <message>
+        <source>File REGPAROL.txt non trovato</source>
+        <translation>File REGPAROL.TXT not found</translation>
+    </message>
+    <message>
+        <source>REGPAROL.TXT</source>
+        <extracomment>The rules file in this language, beside the game&apos;s files; the Italian one when it is missing.</extracomment>
+        <translation>REGPAROL_en.TXT</translation>
+    </message>
+</context>
+<context>
+    <name>VocabularyEditing</name>
+    <message>
+        <source>Sono stati utilizzati uno o più caratteri non contemplati dall&apos;alfabeto italiano oppure caratteri numerici!</source>
+        <translation>One or more characters are not in the dictionary&apos;s alphabet, or are digits!</translation>
+    </message>
+    <message>
+        <source>La parola deve essere composta da 3 a 10 caratteri, vuoi continuare?</source>
+        <translation>The word must have 3 to 10 letters. Do you want to go on?</translation>
+    </message>
+    <message>
+        <source>Parola già inserita nel vocabolario generale!</source>
+        <translation>The word is already in the main dictionary!</translation>
+    </message>
+    <message>
+        <source>Parola già inserita nel vocabolario personale!</source>
+        <translation>The word is already in the personal vocabulary!</translation>
+    </message>
+    <message>
+        <source>Occorre prima selezionare la parola da cancellare!</source>
+        <translation>Select the word to delete first!</translation>
+    </message>
+    <message>
+        <source>Non ci sono parole da cancellare dal vocabolario privato!</source>
+        <translation>There are no words to delete from the personal vocabulary!</translation>
+    </message>
+    <message>
+        <source>Nel dizionario sono ammesse solamente parole formate da 3 a 10 caratteri.</source>
+        <translation>Only words of 3 to 10 letters are allowed in the dictionary.</translation>
+    </message>
+    <message>
+        <source>La parola &apos;%1&apos; esiste già nel dizionario.</source>
+        <translation>The word &apos;%1&apos; is already in the dictionary.</translation>
+    </message>
+    <message>
+        <source>La parola &apos;%1&apos; è stata momentaneamente aggiunta al dizionario, cliccare sul bottone &apos;Crea dizionario&apos; per la ricostruzione definitiva sul disco.</source>
+        <translation>The word &apos;%1&apos; has been added to the dictionary for now: click the &apos;Rebuild Dictionary&apos; button to write it to the disk for good.</translation>
+    </message>
+    <message>
+        <source>(%1) Parole</source>
+        <translation>(%1) Words</translation>
+    </message>
+    <message>
+        <source>(%1) parole</source>
+        <translation>(%1) words</translation>
+    </message>
+</context>
+<context>
+    <name>WordSubmission</name>
+    <message>
+        <source>Inserisci una parola!</source>
+        <translation>Enter a word!</translation>
+    </message>
+    <message>
+        <source>Formare una parola di senso compiuto cliccando su lettere adiacenti tra di loro orizzontalmente, verticalmente e diagonalmente, la stessa lettera non può essere usata più di una volta per comporre la parola. Le parole già trovate (anche dal PC) non possono ovviamente essere riutilizzate.</source>
+        <translation>Form a real word by clicking dice that touch each other horizontally, vertically or diagonally; a die cannot be used more than once in a word. Words already found (by the opponent too) cannot be used again, of course.</translation>
+    </message>
+    <message>
+        <source>Parola troppo corta!</source>
+        <translation>Word too short!</translation>
+    </message>
+    <message>
+        <source>Attenzione: Devi inserire una parola in %1 che deve essere composta almeno da 3 caratteri.</source>
+        <translation>Watch out: you must enter a word in %1 of at least 3 letters.</translation>
+    </message>
+    <message>
+        <source>Parola già inserita da te!</source>
+        <translation>You already have this word!</translation>
+    </message>
+    <message>
+        <source>Hai già precedentemente inserito la parola: %1 mi dispiace, punteggio non assegnato.</source>
+        <translation>You have already entered the word %1. Sorry, no points.</translation>
+    </message>
+    <message>
+        <source>Parola già inserita dalla CPU!</source>
+        <translation>The opponent already has this word!</translation>
+    </message>
+    <message>
+        <source>Il computer ha già inserito la parola: %1 mi dispiace, punteggio non assegnato</source>
+        <translation>The opponent has already entered the word %1. Sorry, no points.</translation>
+    </message>
+    <message>
+        <source>BENE!</source>
+        <translation>GOOD!</translation>
+    </message>
+    <message>
+        <source>Complimenti, parola accettata!</source>
+        <translation>Well done, word accepted!</translation>
+    </message>
+    <message>
+        <source>Complimenti la parola è presente nel dizionario, verranno aggiunti:%1 punti</source>
+        <translation>Well done, the word is in the dictionary: it scores %1 points.</translation>
+    </message>
+    <message>
+        <source>OOPS!</source>
+        <translation>OOPS!</translation>
+    </message>
+</context>
+<context>
+    <name>griglione::ConfirmWindow</name>
+    <message>
+        <source>Il Griglione - Conferma accettazione parola</source>
+        <translation>Il Griglione - Confirm the New Word</translation>
+    </message>
+    <message>
+        <source>Questa parola  non è stata trovata nel dizionario, se non si tratta di un nome proprio, di un nome di località, di una sigla ecc. si può inserire nel vocabolario personale.</source>
+        <translation>This word was not found in the dictionary. If it is not a proper name, a place name, an abbreviation or the like, you may add it to your personal vocabulary.</translation>
+    </message>
+    <message>
+        <source>Dizionario in %1</source>
+        <translation>%1 dictionary</translation>
+    </message>
+    <message>
+        <source>Inserire e conteggiare i punti in questa manche</source>
+        <translation>Add it and score its points in this match</translation>
+    </message>
+    <message>
+        <source>Inserire e non conteggiare i punti</source>
+        <translation>Add it without scoring</translation>
+    </message>
+    <message>
+        <source>Non inserire nel dizionario personale</source>
+        <translation>Do not add it to the personal vocabulary</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>griglione::DictionaryEditorWindow</name>
+    <message>
+        <source>Griglione  - Dizionario principale</source>
+        <translation>Il Griglione - Main Dictionary</translation>
+    </message>
+    <message>
+        <source>%1 Caratt.</source>
+        <translation>%1 Letters</translation>
+    </message>
+    <message>
+        <source>Paole presenti</source>
+        <translation>Words in all</translation>
+    </message>
+    <message>
+        <source>In corso la lettura del dizionario ...</source>
+        <translation>Reading the dictionary ...</translation>
+    </message>
+    <message>
+        <source>&amp;Inserisci</source>
+        <translation>&amp;Insert</translation>
+    </message>
+    <message>
+        <source>&amp;Aggiungi parola</source>
+        <translation>&amp;Add Word</translation>
+    </message>
+    <message>
+        <source>&amp;Cancella parola</source>
+        <translation>&amp;Delete Word</translation>
+    </message>
+    <message>
+        <source>&amp;Ricrea dizionario</source>
+        <translation>&amp;Rebuild Dictionary</translation>
+    </message>
+    <message>
+        <source>&amp;Uscita</source>
+        <translation>E&amp;xit</translation>
+    </message>
+    <message>
+        <source>Il Griglione - Dizionario principale in %1</source>
+        <translation>Il Griglione - %1 Main Dictionary</translation>
+    </message>
+    <message>
+        <source>Selezionare prima una parola da eliminare dal dizionario.</source>
+        <translation>First select a word to delete from the dictionary.</translation>
+    </message>
+    <message>
+        <source>Si desidera veramente eliminare la parola: %1</source>
+        <translation>Do you really want to delete the word %1?</translation>
+    </message>
+    <message>
+        <source>Parola eliminata, cliccare su &apos;Ricostruzione dizionario&apos; per la ricostruzione effettiva del dizionario</source>
+        <translation>Word deleted: click &apos;Rebuild Dictionary&apos; to rebuild the dictionary for good.</translation>
+    </message>
+    <message>
+        <source>Attenzione non interrompere assolutamente la fase di creazione del dizionario! Si desidera veramente ricreare il dizionario principale?</source>
+        <translation>Warning: do not interrupt the writing of the dictionary in any way! Do you really want to rebuild the main dictionary?</translation>
+    </message>
+    <message>
+        <source>Operazione annulata.</source>
+        <translation>Cancelled.</translation>
+    </message>
+    <message>
+        <source>In corso la scrittura del dizionario ...</source>
+        <translation>Writing the dictionary ...</translation>
+    </message>
+    <message>
+        <source>Dizionario riscritto correttamente</source>
+        <translation>Dictionary written successfully</translation>
+    </message>
+    <message>
+        <source>Errore non e&apos; possibile scrivere sul disco nella posizione: %1</source>
+        <translation>Error: cannot write to the disk at: %1</translation>
+    </message>
+</context>
+<context>
+    <name>griglione::EndOfMatchWindow</name>
+    <message>
+        <source>Il Griglione - Tempo scaduto</source>
+        <translation>Il Griglione - Time&apos;s Up</translation>
+    </message>
+    <message>
+        <source>Brivo (Umano)</source>
+        <translation>Brivo (Human)</translation>
+    </message>
+    <message>
+        <source>STATISTICHE</source>
+        <translation>STATISTICS</translation>
+    </message>
+    <message>
+        <source>Vinte</source>
+        <translation>Won</translation>
+    </message>
+    <message>
+        <source>Perse</source>
+        <translation>Lost</translation>
+    </message>
+    <message>
+        <source>Pareggi</source>
+        <translation>Drawn</translation>
+    </message>
+    <message>
+        <source>Vuoi fare un&apos;altra partitina?</source>
+        <translation>How about another match?</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Annulla</source>
+        <translation>&amp;Cancel</translation>
+    </message>
+    <message>
+        <source>&amp;Parole del tabellone</source>
+        <translation>&amp;Words on the Board</translation>
+    </message>
+</context>
+<context>
+    <name>griglione::HelpLinks</name>
+    <message>
+        <source>Non trovato file di documentazione/help %1</source>
+        <translation>Help file not found: %1</translation>
+    </message>
+</context>
+<context>
+    <name>griglione::InformationWindow</name>
+    <message>
+        <source>Versione 3.1.0</source>
+        <translation>Version 3.1.0</translation>
+    </message>
+    <message>
+        <source>Gioco di parole su una griglia di 5 × 5 dadi con lettere, contro il computer.</source>
+        <translation>A word game on a grid of 5 × 5 letter dice, against the computer.</translation>
+    </message>
+    <message>
+        <source>Ideazione e programmazione: Brivo.
+
+Trova più parole del computer prima che scada il tempo: le parole lunghe valgono molto di più. Quattro avversari ti aspettano, da Birillo, che gioca con calma, a Sapienzo, che non perdona.
+
+Dizionari italiano, inglese e latino ricavati da elenchi di parole liberi (witalian, hunspell-it, SCOWL e il dizionario latino di Karl Zeiler), con le loro licenze. Dadi, logo e suoni disegnati e composti apposta per Il Griglione.
+
+Grazie a chi gioca e segnala le parole che mancano.</source>
+        <translation>Designed and programmed by Brivo.
+
+Find more words than the computer before the time runs out: long words are worth much more. Four opponents are waiting for you, from Birillo, who plays calmly, to Sapienzo, who forgives nothing.
+
+Italian, English and Latin dictionaries made from free word lists (witalian, hunspell-it, SCOWL and Karl Zeiler&apos;s Latin dictionary), under their own licences. Dice, logo and sounds drawn and composed for Il Griglione.
+
+Thanks to everyone who plays and reports missing words.</translation>
+    </message>
+    <message>
+        <source>Clicca per visitare la &quot;Brivo home page&quot;</source>
+        <translation>Click to visit the &quot;Brivo home page&quot;</translation>
+    </message>
+    <message>
+        <source>Clicca per mandare una mail all&apos;autore</source>
+        <translation>Click to send the author an e-mail</translation>
+    </message>
+    <message>
+        <source>Software Italiano</source>
+        <translation>Italian software</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>Fatto</source>
+        <translation>Done</translation>
+    </message>
+</context>
+<context>
+    <name>griglione::MainWindow</name>
+    <message>
+        <source>Parola composta</source>
+        <translation>Current word</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Azzera </source>
+        <translation>&amp;Clear</translation>
+    </message>
+    <message>
+        <source>Giocatore</source>
+        <translation>Player</translation>
+    </message>
+    <message>
+        <source>Trovate da te</source>
+        <translation>Your words</translation>
+    </message>
+    <message>
+        <source>Punti</source>
+        <translation>Score</translation>
+    </message>
+    <message>
+        <source>Visita il sito dell&apos;autore</source>
+        <translation>Visit the author&apos;s web site</translation>
+    </message>
+    <message>
+        <source>Il Griglione - Dizionario %1</source>
+        <translation>Il Griglione - %1 Dictionary</translation>
+    </message>
+    <message>
+        <source>Informazioni dizionario</source>
+        <translation>Allowed words</translation>
+    </message>
+    <message>
+        <source>INFO!</source>
+        <translation>INFO!</translation>
+    </message>
+</context>
+<context>
+    <name>griglione::MessageWindow</name>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>OK, fatto</source>
+        <translation>OK, done</translation>
+    </message>
+</context>
+<context>
+    <name>griglione::RecordsWindow</name>
+    <message>
+        <source>Il Griglione - Hiscores Table</source>
+        <translation>Il Griglione - Record Table</translation>
+    </message>
+    <message>
+        <source>Il Griglione : I migliori punteggi</source>
+        <translation>Il Griglione : The Best Scores</translation>
+    </message>
+    <message>
+        <source>&amp;Chiudi</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>Torna al gioco.</source>
+        <translation>Back to the game.</translation>
+    </message>
+    <message>
+        <source>Se hai fatto il record massimo puoi cliccare il link sottostante, verrà aperta una finestra del browser che ti consentirà di pubblicare nella Rete il tuo risultato (Compila anche il campo E-Mail).</source>
+        <translation>If you hold the top record you can click the link below: a browser window opens where you can publish your score on the Internet (fill in the E-Mail field too).</translation>
+    </message>
+    <message>
+        <source>Mia E-Mail:</source>
+        <translation>My E-Mail:</translation>
+    </message>
+    <message>
+        <source>nome@dominio.it</source>
+        <translation>name@example.com</translation>
+    </message>
+    <message>
+        <source>Note sul punteggio:</source>
+        <translation>Notes on the score:</translation>
+    </message>
+    <message>
+        <source>Registra record in Internet</source>
+        <translation>Submit the record online</translation>
+    </message>
+    <message>
+        <source>Clicca per registrare questo punteggio nella tabella mondiale su Internet</source>
+        <translation>Click to enter this score in the world record table on the Internet</translation>
+    </message>
+    <message>
+        <source>The Best</source>
+        <translation>The Best</translation>
+    </message>
+</context>
+<context>
+    <name>griglione::ReviewWindow</name>
+    <message>
+        <source>1 parola</source>
+        <translation>1 word</translation>
+    </message>
+    <message>
+        <source>%1 parole</source>
+        <translation>%1 words</translation>
+    </message>
+    <message>
+        <source>Il Griglione - Parole del tabellone</source>
+        <translation>Il Griglione - Words on the Board</translation>
+    </message>
+    <message>
+        <source>Il tabellone nascondeva %1 per %2 punti in tutto.</source>
+        <translation>The board held %1 worth %2 points in all.</translation>
+    </message>
+    <message>
+        <source>&amp;Tutte</source>
+        <translation>&amp;All</translation>
+    </message>
+    <message>
+        <source>&amp;Chiudi</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>&amp;Le tue parole</source>
+        <translation>&amp;Your words</translation>
+    </message>
+    <message>
+        <source>Parole della C&amp;PU</source>
+        <translation>&amp;Opponent&apos;s words</translation>
+    </message>
+    <message>
+        <source>Parole &amp;mancate</source>
+        <translation>&amp;Missed words</translation>
+    </message>
+    <message>
+        <source>%1
+%2, %3 punti</source>
+        <translation>%1
+%2, %3 points</translation>
+    </message>
+    <message>
+        <source>Clicca una parola per vederne il percorso, un dado per vedere solo le parole che lo attraversano.</source>
+        <translation>Click a word to see its path, a die to see only the words that pass through it.</translation>
+    </message>
+    <message>
+        <source>Solo le parole che passano per il dado evidenziato: cliccalo di nuovo, o &quot;Tutte&quot;, per vederle tutte.</source>
+        <translation>Only the words through the highlighted die: click it again, or &quot;All&quot;, to see them all.</translation>
+    </message>
+</context>
+<context>
+    <name>griglione::VocabularyEditorWindow</name>
+    <message>
+        <source>Edit vocabolario personale</source>
+        <translation>Edit Personal Vocabulary</translation>
+    </message>
+    <message>
+        <source>Parole già inserite:</source>
+        <translation>Words already added:</translation>
+    </message>
+    <message>
+        <source>Cliccare su &lt;Nuova parola&gt; per aggiungere una parola al vocabolario personale utilizzabile all&apos;interno del gioco</source>
+        <translation>Click &lt;New Word&gt; to add a word to the personal vocabulary that the game accepts</translation>
+    </message>
+    <message>
+        <source>Digita nuova parola:</source>
+        <translation>Type the new word:</translation>
+    </message>
+    <message>
+        <source>Con&amp;ferma</source>
+        <translation>Con&amp;firm</translation>
+    </message>
+    <message>
+        <source>&amp;Nuova parola</source>
+        <translation>&amp;New Word</translation>
+    </message>
+    <message>
+        <source>&amp;Cancella parola</source>
+        <translation>&amp;Delete Word</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>&amp;Torna al gioco</source>
+        <translation>&amp;Back to the Game</translation>
+    </message>
+    <message>
+        <source>ERRORE 0001: File contenente le regole sulle parole non trovato: REGPAROL.TCT</source>
+        <translation>ERROR 0001: Word rules file not found: REGPAROL.TXT</translation>
+    </message>
+    <message>
+        <source>Errore non e&apos; possibile scrivere sul disco nella posizione: %1 - Il programma verra&apos; terminato.</source>
+        <translation>Error: cannot write to the disk at: %1 - The program will now end.</translation>
+    </message>
+</context>
+</TS>
