@@ -76,7 +76,9 @@ TEST(AffixTrim, LatinDropsQueNeVeAndContractedPerfectsAndLeavesOtherLinesAlone) 
          "SFX P Y 10", "+SFX P i isti i", "-SFX P i sti i", "+SFX P i erunt i", "-SFX P i runt i",
          "+SFX P i runt [^v]i", "+SFX P vi sti vi",
          // amavit, not amait; audiit beside audivit is right.
-         "+SFX P o avit o", "-SFX P o ait o", "+SFX P o ivit o", "+SFX P o iit o"},
+         "+SFX P o avit o", "-SFX P o ait o", "+SFX P o ivit o", "+SFX P o iit o",
+         // tenete is no contraction of tenetve, which is tenet + ve.
+         "SFX B Y 3", "+SFX B o t eo", "-SFX B o tve eo", "+SFX B o te eo"},
         latinAffixRules());
     EXPECT_TRUE(has(out, "SFX a Y 2") && has(out, "SFX d Y 3") && has(out, "SFX P Y 7"));
     // Other lines and Windows line ends are left alone.
@@ -256,10 +258,17 @@ TEST(WordFilter, AdmitsFoldsAndRefusesSourceWords) {
 
 TEST(WordExclusion, RefusesListWordsWithTheirFormsWholeWordsOnlyUnlessAllowed) {
     WordExclusion english(Language::English), italian(Language::Italian);
-    for (const char* word : {"slut", "bitch", "hussy", "dago", "spic"})
+    for (const char* word :
+         {"slut", "bitch", "hussy", "dago", "spic", "shag", "whore", "gyp", "shit"})
         english.block(word);
+    english.readList("allow en shaggy\nabbrev en pret cryst\n");
+    english.setVocabulary({"HEAD", "SUM", "TY"});
     for (const char* word : {"NEGRO", "mona lisa", "fottere", "cagare", "pisciare", "chiavare"})
         italian.block(word); // a list in capitals; a phrase is no word
+    italian.block("puttana");
+    italian.name("orgosolo");
+    WordExclusion latin(Language::Latin);
+    latin.restrictTo({"AMO"});
     // Lines 5 and 6 are not understood.
     EXPECT_EQ(italian.readList("# comment\nblock it,la  crucco terrone # the rest is a comment\n"
                                "block en frocio\nallow * chiavare\r\nallow it\nkeep it casa\n"
@@ -267,7 +276,13 @@ TEST(WordExclusion, RefusesListWordsWithTheirFormsWholeWordsOnlyUnlessAllowed) {
               (std::vector<int>{5, 6}));
     const std::tuple<const WordExclusion&, const char*, Refusal> cases[] = {
         {english, "SLUT SLUTS BITCHES HUSSIES DAGOS DAGOES SPICS", Refusal::Listed},
-        {english, "SLUTES SPICES SWOP DAYS", Refusal::None},
+        // Derived forms with doubled consonant, dropped E, Y as I; a compound of a list word of
+        // four letters or more; an abbreviation stands alone.
+        {english, "SHAGGED SHAGGING WHORING WHORISH BITCHIER SHITTIER SHITHEAD", Refusal::Listed},
+        {english, "SPICES SWOP DAYS SHAGGY GYPSUM PRETTY CRYSTAL", Refusal::None},
+        {english, "PRET CRYST", Refusal::Abbreviation},
+        {italian, "PUTTANELLA PUTTANONE", Refusal::Listed},
+        {latin, "AMAS", Refusal::NotChecked},
         {italian, "NEGRI CRUCCHI CRUCCA CRUCCHE TERRONI TERRONA", Refusal::Listed},
         {italian, "FOTTEI FOTTUTO CAGHERO CAGHI PISCIAMO PISCI", Refusal::Listed},
         {italian, "CRUCCI CAGERO PISCIIAMO FOTTERELLO MONA FROCIO", Refusal::None},
@@ -281,6 +296,15 @@ TEST(WordExclusion, RefusesListWordsWithTheirFormsWholeWordsOnlyUnlessAllowed) {
         for (std::string word; words >> word;)
             EXPECT_EQ(exclusion.refusal(word), refusal) << word;
     }
+    // A curated source keeps names and loanwords that end in a consonant; a cluster no Italian
+    // word has is refused from every source.
+    const std::tuple<const char*, bool, Refusal> italianCases[] = {
+        {"ORGOSOLO", false, Refusal::Name},     {"ORGOSOLO", true, Refusal::None},
+        {"BACIAR", false, Refusal::NotItalian}, {"BAR", true, Refusal::None},
+        {"BRIDGE", true, Refusal::NotItalian},  {"QATAR", true, Refusal::NotItalian},
+        {"QUASI", false, Refusal::None}};
+    for (const auto& [word, curated, refusal] : italianCases)
+        EXPECT_EQ(italian.refusal(word, curated), refusal) << word << curated;
 }
 
 TEST(WordSelection, AFullLengthTakesTheEarlierTiersFirstAndASteadySample) {
