@@ -23,6 +23,8 @@ TEST(WhitakerCheck, JudgesEachAnalysisByEntryAgeInflectionAndMeaning) {
         {"\ncaesar  N  3 1 NOM S M\nCaesar, Caesaris  N (3rd) M   [XLXBO]\n",
          LatinVerdict::NotClassical},
         {"\nfoo.s  N  3 1 NOM S M\nfoos, foi  N (3rd) M   [XXXIO]\n", LatinVerdict::NotClassical},
+        {"\nkar.us  ADJ  1 1 NOM S M POS\nkarus, kara -um  ADJ   [XXXAO]\n",
+         LatinVerdict::NotClassical},
         // A verb with the dative takes no personal passive; the impersonal one is Latin.
         {"\nnoc.eantur  V  2 1 PRES PASSIVE SUB 3 P\nnoceo, nocere  V (2nd)   [XXXAX]\n"
          "harm, hurt; injure (with DAT);\n",
@@ -31,6 +33,9 @@ TEST(WhitakerCheck, JudgesEachAnalysisByEntryAgeInflectionAndMeaning) {
          "harm, hurt; injure (with DAT);\n",
          LatinVerdict::Classical},
         {"\nlic.etote  V  2 1 FUT  ACTIVE  IMP 2 P\nlicet, licere  V (2nd) IMPERS   [XXXAX]\n",
+         LatinVerdict::NotClassical},
+        {"\nval.ebimur  V  2 1 FUT  PASSIVE IND 1 P\nvaleo, valere  V (2nd)   [XXXAX]\n"
+         "be strong, be well;\n",
          LatinVerdict::NotClassical},
         // The -endus gerundive is classical whatever the inflection line says.
         {"\nleg.endo  VPAR  3 1 DAT S M FUT  PASSIVE PPL  Late\nlego, legere  V (3rd)   [XXXAX]\n",

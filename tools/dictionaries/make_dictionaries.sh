@@ -175,20 +175,25 @@ done
 # Every candidate form goes through Whitaker's WORDS, which knows the classical inflections:
 # only the forms it parses as classical and decent stay (see whitaker_check.h). It is slow to
 # start and quick per word, so it reads the words in a few long runs side by side.
+# The analyses are kept in BUILD_DIR under the checksum of the words and of WORDS's version, so
+# that a remake with the same forms does not run it again.
 "$make_dictionary" admitted 3 "${latin_tiers[@]}" >"$work/la-words.txt"
-echo "  $(wc -l <"$work/la-words.txt") Latin forms to check with whitakers-words"
-split -n l/2 -d "$work/la-words.txt" "$work/la-part-"
-for part in "$work"/la-part-??; do
-    { "$make_dictionary" whitaker-setup; cat "$part"; } |
-        (cd "$work" && whitakers-words >"$part.out" 2>&1 || true) &
-done
-wait
-cat "$work"/la-part-?? >"$work/la-checked-words.txt"
-cat "$work"/la-part-??.out >"$work/la-checked.out"
-"$make_dictionary" latin-check "$work/la-checked-words.txt" "$work/la-checked.out" \
+analyses=$build/whitaker-$({ version whitakers-words; "$make_dictionary" whitaker-setup
+    cat "$work/la-words.txt"; } | sha256sum | cut -c1-16).out
+if [ ! -s "$analyses" ]; then
+    echo "  $(wc -l <"$work/la-words.txt") Latin forms to check with whitakers-words"
+    split -n l/2 -d "$work/la-words.txt" "$work/la-part-"
+    for part in "$work"/la-part-??; do
+        { "$make_dictionary" whitaker-setup; cat "$part"; } |
+            (cd "$work" && whitakers-words >"$part.out" 2>&1 || true) &
+    done
+    wait
+    cat "$work"/la-part-??.out >"$analyses.new" && mv "$analyses.new" "$analyses"
+fi
+"$make_dictionary" latin-check "$work/la-words.txt" "$analyses" \
     "$here/latin_lemmas.txt" "$work/la-classical.txt" "$build/refused-3-whitaker.txt"
 "$make_dictionary" build 3 \
-    "Dizionario latino: {count} parole da 3 a 10 lettere (${latin_package/@/ } GPL-2+; verificate con Whitaker's WORDS; ordine da Collatinus $(version collatinus))." \
+    "Dizionario latino: {count} parole da 3 a 10 lettere (${latin_package/@/ } GPL-2+; filtro WORDS; ordine Collatinus $(version collatinus))." \
     "$data/SLESSICO.3" "$own" --only="$work/la-classical.txt" --refused="$build/refused-3.txt" \
     "${latin_tiers[@]}"
 

@@ -15,7 +15,9 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <fstream>
 #include <functional>
+#include <iterator>
 #include <map>
 #include <set>
 #include <sstream>
@@ -309,8 +311,11 @@ int latinCheck(const std::string& wordFile, const std::string& outputFile,
             (kind == "rude" ? rules.rudeLemmas : rules.decentLemmas).insert(lemma);
     });
     if (!lemmas) return 1;
-    const auto output = readWholeFile(outputFile);
-    if (!output) return fail("cannot read " + outputFile);
+    // Far larger than the game's files (some 140 MB): read whole without readWholeFile's cap.
+    std::ifstream in(outputFile, std::ios::binary);
+    const std::optional<std::string> output =
+        in ? std::optional(std::string(std::istreambuf_iterator<char>(in), {})) : std::nullopt;
+    if (!output || in.bad()) return fail("cannot read " + outputFile);
     const auto blocks = whitakerBlocks(*output, words.size());
     if (blocks.empty()) return fail(outputFile + " does not hold one analysis per word");
     static const char* const names[] = {"classical", "unknown", "not classical", "rude"};

@@ -68,6 +68,9 @@ bool acceptable(const Analysis& a) {
     if (std::string_view("XBC").find(codes[0]) == std::string_view::npos) return false; // late
     if (std::string_view("IMN").find(codes[3]) != std::string_view::npos) return false; // rare
     if (words[0][0] >= 'A' && words[0][0] <= 'Z') return false; // a name: Caesar, Roma
+    // The inscription spelling of carus; a stem that only stands in compounds (-plus: triplus).
+    if (words[0].find('k') != std::string_view::npos) return false;
+    if (a.meaning.find("(only w/") != std::string::npos) return false;
     if (a.tackon) {
         if (a.packon) return has(words, "PACK");
         // -que after a word that takes it as its own ending: uterque, plerusque.
@@ -75,8 +78,11 @@ bool acceptable(const Analysis& a) {
                a.meaning.find("w/-que") != std::string::npos;
     }
     const bool impersonal = has(words, "IMPERS");
-    const bool intransitive =
-        has(words, "INTRANS") || a.meaning.find("(with DAT)") != std::string::npos;
+    // WORDS marks few verbs INTRANS; a verb with the dative, or one glossed as a state ("be
+    // strong", valeo; "be stunned", stupeo), takes no object either.
+    const bool intransitive = has(words, "INTRANS") ||
+                              a.meaning.find("(with DAT)") != std::string::npos ||
+                              a.meaning.starts_with("be ");
     return std::any_of(a.inflections.begin(), a.inflections.end(), [&](const auto& t) {
         if (lateInflection(t)) return false;
         if (!personal(t)) return true;
@@ -160,8 +166,10 @@ LatinVerdict judgeWhitakerBlock(std::string_view block, const WhitakerRules& rul
     bool classical = false;
     for (const Analysis& a : analyses) {
         const std::string lemma = headword(a.entry);
-        if (rules.rudeLemmas.contains(lemma) ||
-            (a.meaning.find("(rude") != std::string::npos && !rules.decentLemmas.contains(lemma)))
+        // "(rude)", "(rude?)", "(Sex rude)"; not "rude, rough" (rudis).
+        const bool rude = a.meaning.find("(rude") != std::string::npos ||
+                          a.meaning.find("rude)") != std::string::npos;
+        if (rules.rudeLemmas.contains(lemma) || (rude && !rules.decentLemmas.contains(lemma)))
             return LatinVerdict::Rude;
         classical = classical || acceptable(a);
     }

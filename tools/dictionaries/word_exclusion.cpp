@@ -105,6 +105,11 @@ bool foreignItalianSpelling(std::string_view w, bool curated) {
     if (w.empty() || (!curated && !isVowel(w.back()))) return true;
     for (const char* cluster : {"DG", "SH", "TH", "PH"})
         if (w.find(cluster) != std::string_view::npos) return true;
+    // CH and GH stand only before E and I (BIANCHE; not BIANCHO, MACHO, CHALET).
+    for (std::size_t h = w.find('H'); h != std::string_view::npos; h = w.find('H', h + 1))
+        if (h > 0 && (w[h - 1] == 'C' || w[h - 1] == 'G') &&
+            (h + 1 == w.size() || (w[h + 1] != 'E' && w[h + 1] != 'I')))
+            return true;
     for (std::size_t q = w.find('Q'); q != std::string_view::npos; q = w.find('Q', q + 1))
         if (q + 1 >= w.size() || w[q + 1] != 'U') return true;
     return false;

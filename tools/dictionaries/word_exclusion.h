@@ -30,7 +30,8 @@ bool isRomanNumeral(std::string_view capitals);
 std::vector<std::string> inflectedForms(std::string_view capitals, Language language);
 
 // True when an Italian word cannot be an Italian headword by its letters: it holds a cluster no
-// Italian word has (DG, SH, TH, PH, Q without U: BRIDGE, FLASH) or, unless it comes from a
+// Italian word has (DG, SH, TH, PH, Q without U, CH or GH before A, O, U: BRIDGE, FLASH,
+// BIANCHO) or, unless it comes from a
 // curated list that keeps the loanwords in use (BAR, TRAM, AUTOBUS), it ends in a consonant
 // (the shortened infinitives BACIAR, ARDIR; SENHAL).
 bool foreignItalianSpelling(std::string_view capitals, bool curated);
