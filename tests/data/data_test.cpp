@@ -279,6 +279,7 @@ TEST(WordExclusion, RefusesListWordsWithTheirFormsWholeWordsOnlyUnlessAllowed) {
     for (const char* word : {"NEGRO", "mona lisa", "fottere", "cagare", "pisciare", "chiavare"})
         italian.block(word); // a list in capitals; a phrase is no word
     italian.block("puttana");
+    italian.setVocabulary({"SVANIRE", "BARE"});
     italian.name("orgosolo");
     WordExclusion latin(Language::Latin);
     latin.restrictTo({"AMO"});
@@ -316,7 +317,7 @@ TEST(WordExclusion, RefusesListWordsWithTheirFormsWholeWordsOnlyUnlessAllowed) {
         {"BACIAR", false, Refusal::NotItalian}, {"BAR", true, Refusal::None},
         {"BRIDGE", true, Refusal::NotItalian},  {"QATAR", true, Refusal::NotItalian},
         {"BIANCHO", true, Refusal::NotItalian}, {"BIANCHE", false, Refusal::None},
-        {"QUASI", false, Refusal::None}};
+        {"SVANIR", true, Refusal::NotItalian},  {"QUASI", false, Refusal::None}};
     for (const auto& [word, curated, refusal] : italianCases)
         EXPECT_EQ(italian.refusal(word, curated), refusal) << word << curated;
 }

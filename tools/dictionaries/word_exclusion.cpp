@@ -258,6 +258,12 @@ Refusal WordExclusion::refusal(const std::string& capitals, bool trusted) const 
     if (m_abbreviations.contains(capitals)) return Refusal::Abbreviation;
     if (m_language == Language::Italian && foreignItalianSpelling(capitals, trusted))
         return Refusal::NotItalian;
+    // A shortened infinitive of poetry (BACIAR, SVANIR beside BACIARE, SVANIRE), whatever the
+    // source; three- and four-letter words (BAR, FAR) are left alone.
+    if (m_language == Language::Italian && capitals.size() >= 5 && capitals.back() == 'R' &&
+        std::string_view("AEI").find(capitals[capitals.size() - 2]) != std::string_view::npos &&
+        m_vocabulary.contains(capitals + 'E'))
+        return Refusal::NotItalian;
     if (!trusted && m_names.contains(capitals)) return Refusal::Name;
     return Refusal::None;
 }
