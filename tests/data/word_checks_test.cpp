@@ -37,6 +37,8 @@ TEST(WhitakerCheck, JudgesEachAnalysisByEntryAgeInflectionAndMeaning) {
         {"\nval.ebimur  V  2 1 FUT  PASSIVE IND 1 P\nvaleo, valere  V (2nd)   [XXXAX]\n"
          "be strong, be well;\n",
          LatinVerdict::NotClassical},
+        {"\nsaevi.endus  VPAR  3 4 NOM S M FUT  PASSIVE PPL\nsaevio  V (4th) INTRANS   [XXXBO]\n",
+         LatinVerdict::NotClassical},
         // The -endus gerundive is classical whatever the inflection line says.
         {"\nleg.endo  VPAR  3 1 DAT S M FUT  PASSIVE PPL  Late\nlego, legere  V (3rd)   [XXXAX]\n",
          LatinVerdict::Classical},

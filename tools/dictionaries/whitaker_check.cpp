@@ -66,7 +66,8 @@ bool acceptable(const Analysis& a) {
     const auto words = tokens(a.entry);
     if (codes.size() != 5 || words.empty()) return false;
     if (std::string_view("XBC").find(codes[0]) == std::string_view::npos) return false; // late
-    if (std::string_view("IMN").find(codes[3]) != std::string_view::npos) return false; // rare
+    // Met once (F), or only in inscriptions, graffiti or Pliny.
+    if (std::string_view("FIMN").find(codes[3]) != std::string_view::npos) return false;
     if (words[0][0] >= 'A' && words[0][0] <= 'Z') return false; // a name: Caesar, Roma
     // The inscription spelling of carus; a stem that only stands in compounds (-plus: triplus).
     if (words[0].find('k') != std::string_view::npos) return false;
@@ -85,6 +86,9 @@ bool acceptable(const Analysis& a) {
                               a.meaning.starts_with("be ");
     return std::any_of(a.inflections.begin(), a.inflections.end(), [&](const auto& t) {
         if (lateInflection(t)) return false;
+        // The gerundive of a verb without object is impersonal, neuter only (saeviendum).
+        if (intransitive && t[1] == "VPAR" && has(t, "FUT") && has(t, "PASSIVE"))
+            return t.size() > 6 && t[6] == "N";
         if (!personal(t)) return true;
         if (impersonal) return thirdSingular(t);
         return !(intransitive && has(t, "PASSIVE") && !thirdSingular(t));
