@@ -130,9 +130,13 @@ private:
 
     bool isContraction(const Entry& e) const {
         const auto& triples = m_triples.at({e.kind, e.flag});
-        if (m_rules.contractedV && e.add.size() >= 2 && e.add[0] != 'i' &&
-            triples.contains({e.strip, e.add.substr(0, 1) + 'v' + e.add.substr(1), e.condition}))
-            return true;
+        if (m_rules.contractedV && e.add.size() >= 2 && e.add[0] != 'i') {
+            Entry longer = e;
+            longer.add = e.add.substr(0, 1) + 'v' + e.add.substr(1);
+            // "tve" is tenet + ve, not a perfect: tenete beside it is the plural imperative.
+            if (triples.contains({e.strip, longer.add, e.condition}) && !isEnclitic(longer))
+                return true;
+        }
         if (m_rules.contractedStrip.empty() || !endsWith(e.strip, m_rules.contractedStrip))
             return false;
         for (const char vowel : std::string_view("ie"))

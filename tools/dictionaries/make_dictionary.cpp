@@ -7,14 +7,19 @@
 #include "dictionary/dictionary_format.h"
 #include "tools/dictionaries/affix_trim.h"
 #include "tools/dictionaries/stem_ranking.h"
+#include "tools/dictionaries/whitaker_check.h"
 #include "tools/dictionaries/word_exclusion.h"
 #include "tools/dictionaries/word_filter.h"
 #include "tools/dictionaries/word_selection.h"
+#include "tools/dictionaries/wordnet_abbreviations.h"
 
 #include <algorithm>
 #include <cstdio>
+#include <fstream>
 #include <functional>
+#include <iterator>
 #include <map>
+#include <set>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -32,6 +37,17 @@ int usage() {
                "    Collatinus's lemmes.la, or are 1 for each word of a plain list\n"
                "  make_dictionary school-stems IN.dic OUT.dic\n"
                "    keeps the first of the Latin dictionary's spellings, the school one\n"
+               "  make_dictionary admitted LANGUAGE TIER...\n"
+               "    prints the admitted words of the tiers once each, in lower case\n"
+               "  make_dictionary wordnet-abbreviations WORDNET_DIR COMMON_LIST SOURCE[,SOURCE]\n"
+               "    prints the abbreviations of the English sources that WordNet shows\n"
+               "  make_dictionary list FILE\n"
+               "    prints the words of a dictionary file, one a line, for review\n"
+               "  make_dictionary whitaker-setup\n"
+               "    prints the answers that set whitakers-words up for latin-check\n"
+               "  make_dictionary latin-check WORDS OUTPUT LEMMAS ACCEPTED REFUSED\n"
+               "    keeps the WORDS whose whitakers-words OUTPUT is classical and decent;\n"
+               "    LEMMAS has lines \"rude HEADWORD...\" and \"decent HEADWORD...\"\n"
                "  make_dictionary build LANGUAGE NOTICE OUT [OPTION]... TIER...\n"
                "    LANGUAGE  1 (Italian), 2 (English) or 3 (Latin)\n"
                "    NOTICE    the description, ASCII; {count} stands for the number of words;\n"
@@ -39,6 +55,11 @@ int usage() {
                "    --block=LIST    a plain UTF-8 list of words to leave out (slurs, obscenities)\n"
                "    --own=FILE      our own list of \"block LANGS word\" and \"allow LANGS word\"\n"
                "    --refused=FILE  writes the words left out, with the reason, for review\n"
+               "    --names=LIST    names, refused unless a trusted tier has them\n"
+               "    --abbreviations=LIST  abbreviations, refused\n"
+               "    --only=LIST     the only words that may pass (checked by another tool)\n"
+               "    --trusted=N     the first N tiers are curated: names and the Italian\n"
+               "                    spelling rule do not overrule them\n"
                "    TIER      one or more UTF-8 word lists joined by commas; earlier tiers win\n"
                "              when a length has more words than the editor can hold\n",
                stderr);
@@ -118,6 +139,14 @@ const char* reasonText(Refusal refusal) {
         return "no vowel";
     case Refusal::RomanNumeral:
         return "Roman numeral";
+    case Refusal::Name:
+        return "name";
+    case Refusal::NotItalian:
+        return "not Italian spelling";
+    case Refusal::NotChecked:
+        return "not classical";
+    case Refusal::Abbreviation:
+        return "abbreviation";
     case Refusal::None:
         break;
     }
@@ -139,14 +168,24 @@ int buildDictionary(int argc, char** argv) {
 
     WordExclusion exclusion(language);
     std::string refusedFile;
+    std::size_t trusted = 0;
     int next = 5;
     for (; next < argc && std::string_view(argv[next]).starts_with("--"); ++next) {
         const std::string option = argv[next];
         const std::size_t equals = option.find('=');
         const std::string name = option.substr(0, equals);
         const std::string value = equals == std::string::npos ? "" : option.substr(equals + 1);
+        bool read = true;
         if (name == "--block") {
-            if (!forEachLine(value, [&](std::string_view w) { exclusion.block(w); })) return 1;
+            read = forEachLine(value, [&](std::string_view w) { exclusion.block(w); });
+        } else if (name == "--names") {
+            read = forEachLine(value, [&](std::string_view w) { exclusion.name(w); });
+        } else if (name == "--abbreviations") {
+            read = forEachLine(value, [&](std::string_view w) { exclusion.abbreviation(w); });
+        } else if (name == "--only") {
+            std::set<std::string> checked;
+            read = forEachLine(value, [&](std::string_view w) { checked.emplace(w); });
+            exclusion.restrictTo(std::move(checked));
         } else if (name == "--own") {
             const auto text = readWholeFile(value);
             if (!text) return fail("cannot read " + value);
@@ -154,33 +193,48 @@ int buildDictionary(int argc, char** argv) {
                 std::fprintf(stderr, "%s:%d: not an entry\n", value.c_str(), line);
         } else if (name == "--refused") {
             refusedFile = value;
+        } else if (name == "--trusted") {
+            trusted = std::stoul(value);
         } else {
             return usage();
         }
+        if (!read) return 1;
     }
     if (next == argc) return usage();
     std::printf("  %zu words and forms blocked\n", exclusion.blockedCount());
 
-    WordSelection selection;
-    std::map<std::string, Refusal> refused;
+    // Every tier is read before any word is judged: a compound of a blocked word is found by
+    // its second half, which may come from any source.
+    std::vector<std::vector<std::string>> tiers;
+    std::vector<std::size_t> lineCounts;
+    std::set<std::string> vocabulary;
     for (int i = next; i < argc; ++i) {
-        std::vector<std::string> words;
-        std::size_t lines = 0;
+        std::vector<std::string>& words = tiers.emplace_back();
+        std::size_t& lines = lineCounts.emplace_back(0);
         const bool read = forEachLine(argv[i], [&](std::string_view line) {
             ++lines;
-            auto word = admitWord(line, language);
-            if (!word) return;
-            if (const Refusal why = exclusion.refusal(*word); why != Refusal::None)
-                refused.emplace(std::move(*word), why);
-            else
-                words.push_back(std::move(*word));
+            if (auto word = admitWord(line, language)) words.push_back(std::move(*word));
         });
         if (!read) return 1;
+        vocabulary.insert(words.begin(), words.end());
+    }
+    exclusion.setVocabulary(std::move(vocabulary));
+
+    WordSelection selection;
+    std::map<std::string, Refusal> refused;
+    for (std::size_t i = 0; i < tiers.size(); ++i) {
+        std::vector<std::string> words;
+        for (std::string& word : tiers[i]) {
+            if (const Refusal why = exclusion.refusal(word, i < trusted); why != Refusal::None)
+                refused.emplace(std::move(word), why);
+            else
+                words.push_back(std::move(word));
+        }
         const WordLists before = selection.lists();
         const std::size_t taken = selection.addTier(words);
         const WordLists after = selection.lists();
-        std::printf("  tier %d: %zu of %zu lines admitted, %zu new words taken; by length:",
-                    i - next + 1, words.size(), lines, taken);
+        std::printf("  tier %zu: %zu of %zu lines admitted, %zu new words taken; by length:", i + 1,
+                    words.size(), lineCounts[i], taken);
         for (std::size_t k = 0; k < after.size(); ++k)
             std::printf(" %zu", after[k].size() - before[k].size());
         std::printf("\n");
@@ -189,8 +243,8 @@ int buildDictionary(int argc, char** argv) {
     std::printf("  %zu words refused\n", refused.size());
     if (!refusedFile.empty()) {
         std::string text;
-        for (const auto& [word, why] : refused)
-            text += word + '\t' + reasonText(why) + '\n';
+        for (const auto& [word, why] : refused) // a word another tier brought in is not listed
+            if (!selection.contains(word)) text += word + '\t' + reasonText(why) + '\n';
         if (!writeFileAtomically(refusedFile, text)) return fail("cannot write " + refusedFile);
     }
 
@@ -224,6 +278,108 @@ int schoolStems(const std::string& in, const std::string& out) {
     return 0;
 }
 
+// The admitted words of the tiers, each once, in lower case, for an outside checker.
+int admittedWords(int argc, char** argv) {
+    const std::string number = argv[2];
+    if (number != "1" && number != "2" && number != "3") return usage();
+    const auto language = static_cast<Language>(std::stoi(number));
+    std::set<std::string> words;
+    for (int i = 3; i < argc; ++i)
+        if (!forEachLine(argv[i], [&](std::string_view line) {
+                if (auto word = admitWord(line, language)) words.insert(std::move(*word));
+            }))
+            return 1;
+    for (std::string word : words) {
+        std::transform(word.begin(), word.end(), word.begin(),
+                       [](char c) { return static_cast<char>(c - 'A' + 'a'); });
+        std::puts(word.c_str());
+    }
+    return 0;
+}
+
+int latinCheck(const std::string& wordFile, const std::string& outputFile,
+               const std::string& lemmaFile, const std::string& acceptedFile,
+               const std::string& refusedFile) {
+    std::vector<std::string> words;
+    if (!forEachLine(wordFile, [&](std::string_view w) { words.emplace_back(w); })) return 1;
+    WhitakerRules rules;
+    const bool lemmas = forEachLine(lemmaFile, [&](std::string_view line) {
+        std::istringstream in{std::string(line.substr(0, line.find('#')))};
+        std::string kind, lemma;
+        in >> kind;
+        while (in >> lemma)
+            (kind == "rude" ? rules.rudeLemmas : rules.decentLemmas).insert(lemma);
+    });
+    if (!lemmas) return 1;
+    // Far larger than the game's files (some 140 MB): read whole without readWholeFile's cap.
+    std::ifstream in(outputFile, std::ios::binary);
+    const std::optional<std::string> output =
+        in ? std::optional(std::string(std::istreambuf_iterator<char>(in), {})) : std::nullopt;
+    if (!output || in.bad()) return fail("cannot read " + outputFile);
+    const auto blocks = whitakerBlocks(*output, words.size());
+    if (blocks.empty()) return fail(outputFile + " does not hold one analysis per word");
+    static const char* const names[] = {"classical", "unknown", "not classical", "rude"};
+    std::size_t counts[4] = {};
+    std::string accepted, refused;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const LatinVerdict verdict = judgeWhitakerBlock(blocks[i], rules);
+        ++counts[static_cast<int>(verdict)];
+        std::string capitals = words[i];
+        std::transform(capitals.begin(), capitals.end(), capitals.begin(),
+                       [](char c) { return static_cast<char>(c >= 'a' ? c - 'a' + 'A' : c); });
+        if (verdict == LatinVerdict::Classical)
+            accepted += capitals + '\n';
+        else
+            refused += capitals + '\t' + names[static_cast<int>(verdict)] + '\n';
+    }
+    if (!writeFileAtomically(acceptedFile, accepted)) return fail("cannot write " + acceptedFile);
+    if (!writeFileAtomically(refusedFile, refused)) return fail("cannot write " + refusedFile);
+    for (int k = 0; k < 4; ++k)
+        std::printf("  %s: %zu\n", names[k], counts[k]);
+    return 0;
+}
+
+int wordNetAbbreviations(const std::string& folder, const std::string& commonList,
+                         const std::string& sources) {
+    WordNetLexicon lexicon;
+    for (const char* part : {"noun", "verb", "adj", "adv"}) {
+        const auto data = readWholeFile(folder + "/data." + part);
+        const auto exceptions = readWholeFile(folder + "/" + part + ".exc");
+        if (!data || !exceptions) return fail("cannot read WordNet's files in " + folder);
+        lexicon.addDataFile(*data);
+        lexicon.addExceptions(*exceptions);
+    }
+    std::set<std::string> common, words;
+    const auto lowerWord = [](std::string_view line) {
+        return line.size() >= 3 && line.size() <= 10 &&
+               std::all_of(line.begin(), line.end(), [](char c) { return c >= 'a' && c <= 'z'; });
+    };
+    if (!forEachLine(commonList, [&](std::string_view w) { common.emplace(w); }) ||
+        !forEachLine(sources, [&](std::string_view w) {
+            if (lowerWord(w)) words.emplace(w);
+        }))
+        return 1;
+    for (const std::string& word :
+         lexicon.abbreviations(std::vector<std::string>(words.begin(), words.end()), common))
+        std::puts(word.c_str());
+    return 0;
+}
+
+int listWords(const std::string& name) {
+    const auto file = readWholeFile(name);
+    if (!file) return fail("cannot read " + name);
+    const DictionaryIndex index = parseIndex(*file);
+    for (int length = kMinWordLength; length <= kMaxWordLength; ++length)
+        for (std::int32_t k = 0; k < index.contaGruppo(length); ++k) {
+            const std::size_t at = static_cast<std::size_t>(index.inizioGruppo(length)) - 1 +
+                                   static_cast<std::size_t>(k * length);
+            if (at + static_cast<std::size_t>(length) > file->size())
+                return fail(name + " is cut short");
+            std::printf("%s\n", file->substr(at, static_cast<std::size_t>(length)).c_str());
+        }
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -233,5 +389,15 @@ int main(int argc, char** argv) {
         return splitStems(argv[2], argv[3], argv[4], argv[5], argv[6]);
     if (argc == 4 && std::string(argv[1]) == "school-stems") return schoolStems(argv[2], argv[3]);
     if (argc >= 6 && std::string(argv[1]) == "build") return buildDictionary(argc, argv);
+    if (argc >= 4 && std::string(argv[1]) == "admitted") return admittedWords(argc, argv);
+    if (argc == 5 && std::string(argv[1]) == "wordnet-abbreviations")
+        return wordNetAbbreviations(argv[2], argv[3], argv[4]);
+    if (argc == 3 && std::string(argv[1]) == "list") return listWords(argv[2]);
+    if (argc == 2 && std::string(argv[1]) == "whitaker-setup") {
+        std::fputs(whitakerSetup().c_str(), stdout);
+        return 0;
+    }
+    if (argc == 7 && std::string(argv[1]) == "latin-check")
+        return latinCheck(argv[2], argv[3], argv[4], argv[5], argv[6]);
     return usage();
 }

@@ -1,5 +1,7 @@
 #include "tools/dictionaries/word_exclusion.h"
 
+#include "dictionary/dictionary_format.h"
+
 #include <algorithm>
 #include <regex>
 
@@ -72,7 +74,46 @@ void addConjugation(const std::string& infinitive, std::vector<std::string>& for
     if (kind == 'I') add(ire, false);
 }
 
+// -s, -es, -ed, -ing, -er, -est, -ier, -iest, -ish, -ily, -iness, -y and their plurals, on the
+// word as it is, with its last consonant doubled (shag: shagged), without its final E (whore:
+// whoring) or with its final Y turned I (hussy: hussies).
+void addEnglishDerivations(const std::string& word, std::vector<std::string>& forms) {
+    static const char* const endings[] = {"S",   "ED",  "ING",     "INGS", "ER",  "ERS",
+                                          "EST", "IER", "IEST",    "ISH",  "ILY", "INESS",
+                                          "Y",   "IES", "INESSES", "EY",   "EYS", "IERS"};
+    std::vector<std::string> stems{word};
+    const char last = word.back();
+    // -es only where English spells it: after a sibilant or an O (bitches, dagoes; not spices).
+    if (last == 'S' || last == 'X' || last == 'Z' || last == 'O' || endsWith(word, "CH") ||
+        endsWith(word, "SH"))
+        forms.push_back(word + "ES");
+    if (!isVowel(last) && last != 'W' && last != 'X') stems.push_back(word + last);
+    if (last == 'E') stems.push_back(word.substr(0, word.size() - 1));
+    for (const std::string& stem : stems)
+        for (const char* ending : endings)
+            forms.push_back(stem + ending);
+    // Y turns I before an ending (hussies, bitchier); a stem without Y takes no other ending,
+    // as limey gives no lime.
+    if (last == 'Y')
+        for (const char* ending : endings)
+            if (ending[0] == 'I') forms.push_back(word.substr(0, word.size() - 1) + ending);
+}
+
 } // namespace
+
+bool foreignItalianSpelling(std::string_view w, bool curated) {
+    if (w.empty() || (!curated && !isVowel(w.back()))) return true;
+    for (const char* cluster : {"DG", "SH", "TH", "PH"})
+        if (w.find(cluster) != std::string_view::npos) return true;
+    // CH and GH stand only before E and I (BIANCHE; not BIANCHO, MACHO, CHALET).
+    for (std::size_t h = w.find('H'); h != std::string_view::npos; h = w.find('H', h + 1))
+        if (h > 0 && (w[h - 1] == 'C' || w[h - 1] == 'G') &&
+            (h + 1 == w.size() || (w[h + 1] != 'E' && w[h + 1] != 'I')))
+            return true;
+    for (std::size_t q = w.find('Q'); q != std::string_view::npos; q = w.find('Q', q + 1))
+        if (q + 1 >= w.size() || w[q + 1] != 'U') return true;
+    return false;
+}
 
 bool hasVowel(std::string_view capitals) {
     for (const char c : capitals)
@@ -92,12 +133,7 @@ std::vector<std::string> inflectedForms(std::string_view capitals, Language lang
     const char last = word.back();
     const std::string stem = word.substr(0, word.size() - 1);
     if (language == Language::English) {
-        const char before = stem.back();
-        if (last == 'Y' && !isVowel(before)) forms.push_back(stem + "IES");
-        if (last == 'S' || last == 'X' || last == 'Z' || last == 'O' || endsWith(word, "CH") ||
-            endsWith(word, "SH"))
-            forms.push_back(word + "ES");
-        forms.push_back(word + "S");
+        addEnglishDerivations(word, forms);
     } else if (language == Language::Italian) {
         // -co, -ga keep their hard sound: crucco, crucchi; checca, checche.
         const bool hard =
@@ -109,8 +145,14 @@ std::vector<std::string> inflectedForms(std::string_view capitals, Language lang
             forms.insert(forms.end(), {masculine, stem + "A", plural + "E"});
         } else if (last == 'A') {
             forms.push_back(plural + "E");
-        } else if (word.size() > 5 &&
-                   (endsWith(word, "ARE") || endsWith(word, "ERE") || endsWith(word, "IRE"))) {
+        }
+        // Diminutives and augmentatives, in both genders and numbers: puttanella, culone.
+        if ((last == 'O' || last == 'A') && word.size() >= 4)
+            for (const char* ending : {"ELL", "ETT", "IN", "ON", "ACC", "OTT", "UCC"})
+                for (const char* tail : {"O", "A", "I", "E"})
+                    forms.push_back(plural + ending + tail);
+        else if (word.size() > 5 &&
+                 (endsWith(word, "ARE") || endsWith(word, "ERE") || endsWith(word, "IRE"))) {
             addConjugation(word, forms);
             forms.push_back(stem + "I"); // or a noun: puttaniere, puttanieri
         } else if (last == 'E') {
@@ -123,9 +165,36 @@ std::vector<std::string> inflectedForms(std::string_view capitals, Language lang
 }
 
 void WordExclusion::block(std::string_view sourceWord) {
-    if (const auto word = listWord(sourceWord, m_language))
-        for (std::string& form : inflectedForms(*word, m_language))
-            m_blocked[std::move(form)].push_back(*word);
+    const auto word = listWord(sourceWord, m_language);
+    if (!word) return;
+    m_entries.insert(*word);
+    for (std::string& form : inflectedForms(*word, m_language)) {
+        auto& entries = m_blocked[std::move(form)];
+        if (std::find(entries.begin(), entries.end(), *word) == entries.end())
+            entries.push_back(*word);
+    }
+}
+
+void WordExclusion::name(std::string_view sourceWord) {
+    if (const auto word = listWord(sourceWord, m_language)) m_names.insert(*word);
+}
+
+void WordExclusion::abbreviation(std::string_view sourceWord) {
+    if (const auto word = listWord(sourceWord, m_language)) m_abbreviations.insert(*word);
+}
+
+bool WordExclusion::blockedEntry(const std::string& entry) const {
+    return m_entries.contains(entry) && !m_allowed.contains(entry);
+}
+
+// A list word of four letters or more followed by a word of three letters or more of the
+// sources (SHIT + HEAD). Three-letter list words would take too many ordinary words with them
+// (GYP + SUM).
+bool WordExclusion::isCompound(const std::string& w) const {
+    constexpr auto shortest = static_cast<std::size_t>(kMinWordLength);
+    for (std::size_t cut = shortest + 1; cut + shortest <= w.size(); ++cut)
+        if (blockedEntry(w.substr(0, cut)) && m_vocabulary.contains(w.substr(cut))) return true;
+    return false;
 }
 
 void WordExclusion::allow(std::string_view sourceWord) {
@@ -150,7 +219,8 @@ std::vector<int> WordExclusion::readList(std::string_view text) {
             if (gap > at) words.push_back(line.substr(at, gap - at));
             at = gap + 1;
         }
-        if (words.size() < 3 || (words[0] != "block" && words[0] != "allow")) {
+        if (words.size() < 3 ||
+            (words[0] != "block" && words[0] != "allow" && words[0] != "abbrev")) {
             unread.push_back(number);
             continue;
         }
@@ -164,6 +234,8 @@ std::vector<int> WordExclusion::readList(std::string_view text) {
         for (std::size_t i = 2; mine && i < words.size(); ++i) {
             if (words[0] == "block")
                 block(words[i]);
+            else if (words[0] == "abbrev")
+                abbreviation(words[i]);
             else
                 allow(words[i]);
         }
@@ -171,16 +243,28 @@ std::vector<int> WordExclusion::readList(std::string_view text) {
     return unread;
 }
 
-Refusal WordExclusion::refusal(const std::string& capitals) const {
+Refusal WordExclusion::refusal(const std::string& capitals, bool trusted) const {
     if (m_allowed.contains(capitals)) return Refusal::None;
+    if (m_restricted && !m_checked.contains(capitals)) return Refusal::NotChecked;
     // The forms of an allowed word stay in with it (allowing CHIAVARE keeps CHIAVI).
     const auto blocked = m_blocked.find(capitals);
     if (blocked != m_blocked.end() &&
         std::any_of(blocked->second.begin(), blocked->second.end(),
                     [this](const std::string& entry) { return !m_allowed.contains(entry); }))
         return Refusal::Listed;
+    if (isCompound(capitals)) return Refusal::Listed;
     if (!hasVowel(capitals)) return Refusal::NoVowel;
     if (isRomanNumeral(capitals)) return Refusal::RomanNumeral;
+    if (m_abbreviations.contains(capitals)) return Refusal::Abbreviation;
+    if (m_language == Language::Italian && foreignItalianSpelling(capitals, trusted))
+        return Refusal::NotItalian;
+    // A shortened infinitive of poetry (BACIAR, SVANIR beside BACIARE, SVANIRE), whatever the
+    // source; three- and four-letter words (BAR, FAR) are left alone.
+    if (m_language == Language::Italian && capitals.size() >= 5 && capitals.back() == 'R' &&
+        std::string_view("AEI").find(capitals[capitals.size() - 2]) != std::string_view::npos &&
+        m_vocabulary.contains(capitals + 'E'))
+        return Refusal::NotItalian;
+    if (!trusted && m_names.contains(capitals)) return Refusal::Name;
     return Refusal::None;
 }
 

@@ -57,4 +57,10 @@ std::size_t WordSelection::size() const {
     return total;
 }
 
+bool WordSelection::contains(const std::string& word) const {
+    const std::size_t length = word.size();
+    return length >= kMinWordLength && length <= kMaxWordLength &&
+           m_words[length - kMinWordLength].contains(word);
+}
+
 } // namespace griglione

@@ -31,6 +31,7 @@ public:
 
     WordLists lists() const;
     std::size_t size() const;
+    bool contains(const std::string& word) const;
 
 private:
     std::size_t m_wordsPerLength;

@@ -1,0 +1,38 @@
+// Reads the analyses that Whitaker's WORDS (Debian's whitakers-words) prints for Latin forms, so
+// that the Latin dictionary keeps only forms it parses as classical and decent: no unknown
+// strings, no late, medieval or inscription-only words, no names, no personal passives of verbs
+// that take no object, no forms glued to -que/-ne/-ve, nothing marked rude.
+#pragma once
+
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace griglione {
+
+enum class LatinVerdict { Classical, Unknown, NotClassical, Rude };
+
+struct WhitakerRules {
+    // Headwords (lower case) read as rude whatever their meaning says (pathicus, fello).
+    std::set<std::string> rudeLemmas;
+    // Headwords whose meaning mentions a rude sense beside ordinary ones (corvus, the raven).
+    std::set<std::string> decentLemmas;
+};
+
+// The parameter answers that set WORDS up for checking: every analysis shown untrimmed, no
+// guessed prefixes, suffixes, tricks, two-word splits or medieval spellings, no paging. Sent
+// before the words, one a line.
+std::string whitakerSetup();
+
+// The analysis blocks of WORDS's output, one per input word in order: the text after each "=>"
+// that starts a line, less the parameter dialogue and the closing error. Empty when the count
+// differs from `words` (the output is not one block per word).
+std::vector<std::string_view> whitakerBlocks(std::string_view output, std::size_t words);
+
+// The verdict on one block: Classical when at least one analysis is of a classical (or early),
+// common-noun entry under an inflection that is not late and fits the verb; Rude when any
+// analysis is of a rude entry.
+LatinVerdict judgeWhitakerBlock(std::string_view block, const WhitakerRules& rules);
+
+} // namespace griglione
