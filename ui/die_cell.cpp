@@ -1,5 +1,8 @@
 #include "ui/die_cell.h"
 
+#include "platform/picture_book.h"
+#include "ui/main_window_controls.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -14,15 +17,20 @@ DieCell::DieCell(int index, QWidget* parent) : QWidget(parent), m_index(index) {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void DieCell::setPicture(const QPixmap& picture) {
-    m_picture = picture;
+void DieCell::setPicture(const PictureBook& book, const std::string& name) {
+    m_book = &book;
+    m_name = name;
     update();
 }
 
 void DieCell::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), QColor(0, 64, 0));
-    painter.drawPixmap(0, 0, m_picture);
+    if (!m_book) return;
+    const qreal ratio = devicePixelRatioF();
+    QPixmap picture = m_book->picture(m_name, ratio);
+    if (picture.isNull()) picture = fallbackDie(m_name, ratio);
+    painter.drawPixmap(0, 0, picture);
 }
 
 void DieCell::mousePressEvent(QMouseEvent* event) {

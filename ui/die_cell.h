@@ -1,17 +1,21 @@
 // One die of the board (Picture1(n)): its picture, and the presses and keys it receives.
 #pragma once
 
-#include <QPixmap>
 #include <QWidget>
 
+#include <string>
+
 namespace griglione {
+
+class PictureBook;
 
 class DieCell final : public QWidget {
     Q_OBJECT
 public:
     DieCell(int index, QWidget* parent);
 
-    void setPicture(const QPixmap& picture);
+    // The die shows the picture of that name, drawn for the screen it is on at each paint.
+    void setPicture(const PictureBook& book, const std::string& name);
 
 signals:
     // `button` is the press's code: 1 left, 2 right, 4 middle.
@@ -26,7 +30,8 @@ protected:
 
 private:
     int m_index;
-    QPixmap m_picture;
+    const PictureBook* m_book = nullptr;
+    std::string m_name;
 };
 
 } // namespace griglione

@@ -1,6 +1,7 @@
 #include "ui/end_of_match_window.h"
 
 #include "platform/fonts.h"
+#include "platform/picture_book.h"
 #include "ui/colours.h"
 #include "ui/message_window.h"
 #include "ui/twips.h"
@@ -41,10 +42,7 @@ EndOfMatchWindow::EndOfMatchWindow(QTimer& matchClock, QTimer& opponentClock, So
     setObjectName("Form2");
     setWindowTitle("Il Griglione - Tempo scaduto");
     setFixedSize(px(6525), px(5475));
-    setAutoFillBackground(true);
-    QPalette palette = this->palette();
-    palette.setColor(QPalette::Window, QColor(192, 192, 192));
-    setPalette(palette);
+    setGround(this, QColor(192, 192, 192), Qt::black);
 
     m_result = label(this, "Label1", "", 720, 120, 5400, 480);
     m_result->setFont(tahoma(14, true));
@@ -121,10 +119,9 @@ void EndOfMatchWindow::showResult(const QString& playerName, int playerScore, in
     exec();
 }
 
-void EndOfMatchWindow::setPicture(const QPixmap& picture) {
-    if (picture.isNull()) return;
-    m_picture->setPixmap(
-        picture.scaled(m_picture->size(), Qt::KeepAspectRatio, Qt::SmoothTransformation));
+void EndOfMatchWindow::setPicture(const PictureBook& book, const std::string& name) {
+    const QPixmap picture = book.picture(name, devicePixelRatioF(), m_picture->size());
+    if (!picture.isNull()) m_picture->setPixmap(picture);
 }
 
 void EndOfMatchWindow::goOn() {

@@ -65,7 +65,8 @@ MainWindow::MainWindow(Services services)
       m_sounds(m_services.player, [this] { return m_menu.suono->isChecked(); }), m_messages(this),
       m_dictionary(m_state, m_files, m_services.alerts, m_services.yield, m_services.folder),
       m_dealer(m_services.random, m_services.clock),
-      m_board(m_state, m_dealer, m_sounds, m_messages, *this), m_rules(m_services.folder) {
+      m_board(m_state, m_dealer, m_sounds, m_messages, *this), m_rules(m_services.folder),
+      m_pictures(m_services.folder) {
     setObjectName("Form1");
     m_menu = buildMenuBar(menuBar());
     buildControls();
@@ -164,16 +165,14 @@ void MainWindow::buildControls() {
     label(area, "Label2", "Parola composta", at(5340, 45, 1995, 195), Qt::white, kBlue);
     m_word = label(area, "Label1", "", at(5340, 270, 1995, 330), Qt::black, QColor(255, 255, 192));
     m_word->setFont(tahoma(12));
-    auto* ok = pictureButton(
-        area, "Command2", "&OK", at(5340, 660, 984, 915),
-        QString::fromStdString(resolveFileName(m_services.folder, "okbutton.gif").string()));
+    auto* ok = pictureButton(area, "Command2", "&OK", at(5340, 660, 984, 915),
+                             m_pictures.icon("okbutton.gif"));
     connect(ok, &QToolButton::clicked, this, [this] { m_submission->inviaParola(); });
     // Alt+O belongs to the "&Opzioni" menu: shared with the button, the first press would only
     // move the focus. Enter submits the word anyway.
     ok->setShortcut(QKeySequence());
-    auto* clear = pictureButton(
-        area, "Command1", "&Azzera ", at(6360, 660, 984, 915),
-        QString::fromStdString(resolveFileName(m_services.folder, "azzera.gif").string()));
+    auto* clear = pictureButton(area, "Command1", "&Azzera ", at(6360, 660, 984, 915),
+                                m_pictures.icon("azzera.gif"));
     connect(clear, &QToolButton::clicked, this, [this] { m_board.azzera(); });
 
     m_clockFrame = label(area, "Label3", "", at(5310, 1695, 2025, 345), Qt::white, kRed);
@@ -253,7 +252,7 @@ void MainWindow::startUp() {
     m_menu.spessori[width]->setChecked(true);
     settaSpessLinea();
     aggMenudiz();
-    m_logo->setPixmap(picture("griglione.gif"));
+    m_logo->setPixmap(m_pictures.picture("griglione.gif", devicePixelRatioF()));
 }
 
 void MainWindow::salvaImpostazioni() {
@@ -324,7 +323,7 @@ void MainWindow::endOfMatch() {
             if (!review) review = new ReviewWindow(m_endOfMatch);
             review->showBoard(m_state, m_services.folder);
         });
-        m_endOfMatch->setPicture(picture("griglione.gif"));
+        m_endOfMatch->setPicture(m_pictures, "griglione.gif");
     }
     m_endOfMatch->hide();
     m_endOfMatch->showResult(m_playerName->text(), m_playerScore->text().toInt(),
@@ -356,17 +355,6 @@ void MainWindow::quit() {
     QApplication::quit();
 }
 
-QPixmap MainWindow::picture(const std::string& name) {
-    const QString key = QString::fromStdString(name);
-    auto it = m_pictures.find(key);
-    if (it == m_pictures.end()) {
-        QPixmap pixmap(QString::fromStdString(resolveFileName(m_services.folder, name).string()));
-        if (pixmap.isNull() && name.rfind("zarM", 0) == 0) pixmap = fallbackDie(name);
-        it = m_pictures.insert(key, pixmap);
-    }
-    return *it;
-}
-
 void MainWindow::syncList(QListWidget* list, const std::vector<std::string>& words) {
     if (static_cast<std::size_t>(list->count()) > words.size()) list->clear();
     for (std::size_t i = static_cast<std::size_t>(list->count()); i < words.size(); ++i)
@@ -378,7 +366,7 @@ void MainWindow::changed(Aspect aspect) {
     switch (aspect) {
     case Aspect::Board:
         for (int n = 0; n < kCells; ++n)
-            m_cells[n]->setPicture(picture(m_state.immagineCella[n]));
+            m_cells[n]->setPicture(m_pictures, m_state.immagineCella[n]);
         break;
     case Aspect::Word:
         m_word->setText(QString::fromStdString(m_state.parolaComposta));

@@ -1,7 +1,7 @@
 # Shared by scripts/play and scripts/test: install the Debian packages the build needs, then
 # configure and build with the default preset.
 
-BUILD_PACKAGES=(cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev libgtest-dev libgmock-dev
+BUILD_PACKAGES=(cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev qt6-svg-dev libgtest-dev libgmock-dev
     fonts-wine fonts-liberation)
 
 install_missing() {
