@@ -4,9 +4,11 @@
 #include "platform/fonts.h"
 #include "platform/game_folder.h"
 #include "platform/outside_opener.h"
+#include "platform/picture_book.h"
 #include "platform/sound_player.h"
 #include "platform/system_clock.h"
 #include "ui/alert_boxes.h"
+#include "ui/colours.h"
 #include "ui/main_window.h"
 
 #include <QApplication>
@@ -20,6 +22,8 @@ int main(int argc, char* argv[]) {
     griglione::settleGameFolder(QCoreApplication::applicationDirPath());
     griglione::registerFonts();
     QApplication::setFont(griglione::tahoma(8.25));
+    QApplication::setPalette(griglione::withReadableSelection(QApplication::palette()));
+    QApplication::setWindowIcon(griglione::PictureBook(".").icon("icona.svg"));
 
     griglione::SoundPlayer player;
     griglione::AlertBoxes alerts;
