@@ -1,9 +1,9 @@
 #include "ui/end_of_match_window.h"
 
 #include "platform/fonts.h"
-#include "platform/picture_book.h"
 #include "ui/colours.h"
 #include "ui/message_window.h"
+#include "ui/sharp_picture.h"
 #include "ui/twips.h"
 
 #include <QCoreApplication>
@@ -120,8 +120,7 @@ void EndOfMatchWindow::showResult(const QString& playerName, int playerScore, in
 }
 
 void EndOfMatchWindow::setPicture(const PictureBook& book, const std::string& name) {
-    const QPixmap picture = book.picture(name, devicePixelRatioF(), m_picture->size());
-    if (!picture.isNull()) m_picture->setPixmap(picture);
+    SharpPicture::show(m_picture, book, name, m_picture->size());
 }
 
 void EndOfMatchWindow::goOn() {

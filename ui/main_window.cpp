@@ -19,6 +19,7 @@
 #include "ui/path_overlay.h"
 #include "ui/records_flow.h"
 #include "ui/review_window.h"
+#include "ui/sharp_picture.h"
 #include "ui/time_bar.h"
 #include "ui/twips.h"
 
@@ -252,7 +253,7 @@ void MainWindow::startUp() {
     m_menu.spessori[width]->setChecked(true);
     settaSpessLinea();
     aggMenudiz();
-    m_logo->setPixmap(m_pictures.picture("griglione.gif", devicePixelRatioF()));
+    SharpPicture::show(m_logo, m_pictures, "griglione.gif");
 }
 
 void MainWindow::salvaImpostazioni() {
