@@ -109,14 +109,10 @@ private slots:
         EndOfMatchWindow end(
             *game.timer("Timer1"), *game.timer("Timer2"), game.sounds, game.window->messages(),
             [] {}, parent);
-        whenShown("Form2", [&](QWidget* w) {
-            found << unreadable(w);
-            w->hide();
-        });
+        whenShown("Form2", [&](QWidget* w) { found << unreadable(w), w->hide(); });
         end.showResult("BRIVO", 540, 180, {true, false, false, false});
 
         ReviewWindow review(parent);
-        game.window->state().numDizionario = 1;
         review.load(game.window->state(), game.folder.path());
         review.show();
         found << unreadable(&review);
@@ -133,7 +129,6 @@ private slots:
         found << unreadable(&info) << unreadable(&message) << unreadable(&confirm);
 
         EditorHarness editor;
-        editor.state.nomeDizionario = "Italiano";
         DictionaryEditorWindow dictionary(editor.context(WordLists{{{"ERA"}, {"CASA"}}}), parent);
         QSignalSpy loaded(&dictionary, &DictionaryEditorWindow::loaded);
         dictionary.show();
