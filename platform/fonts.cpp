@@ -2,8 +2,23 @@
 
 #include <QFile>
 #include <QFontDatabase>
+#include <QGuiApplication>
+#include <QScreen>
 
 namespace griglione {
+namespace {
+
+// The windows are laid out in fixed logical pixels for text at the usual 96 dpi. A larger font
+// resolution set for the desktop alone (QT_FONT_DPI) would grow the text out of its places, so
+// the sizes are taken at 96 dpi; a screen scale (a device pixel ratio) enlarges the whole window,
+// text included, and leaves the font resolution at 96.
+double designPoints(double points) {
+    const QScreen* screen = qGuiApp ? QGuiApplication::primaryScreen() : nullptr;
+    const double dpi = screen ? screen->logicalDotsPerInchY() : 96;
+    return dpi > 0 ? points * 96 / dpi : points;
+}
+
+} // namespace
 
 void registerFonts() {
     if (QFontDatabase::hasFamily("Tahoma")) return;
@@ -15,7 +30,7 @@ void registerFonts() {
 QFont tahoma(double points, bool bold) {
     QFont font("Tahoma");
     font.setStyleHint(QFont::SansSerif);
-    font.setPointSizeF(points);
+    font.setPointSizeF(designPoints(points));
     font.setBold(bold);
     return font;
 }
@@ -24,7 +39,7 @@ QFont courier(double points) {
     QFont font("Courier New");
     font.setFamilies({"Courier New", "Liberation Mono", "Courier"});
     font.setStyleHint(QFont::Monospace);
-    font.setPointSizeF(points);
+    font.setPointSizeF(designPoints(points));
     return font;
 }
 

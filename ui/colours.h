@@ -1,5 +1,9 @@
-// Colours of labels and fields, set through the palette so that the fonts set on them stay.
+// Colours of labels and fields, set through the palette so that the fonts set on them stay. A
+// fixed background always comes with its text colour; a fixed text colour on the theme's
+// background is made readable on it.
 #pragma once
+
+#include "core/contrast.h"
 
 #include <QColor>
 #include <QWidget>
@@ -24,9 +28,45 @@ inline void setColours(QWidget* widget, const QColor& foreground, const QColor& 
     widget->setPalette(palette);
 }
 
+// What is drawn behind `widget`: the ground of the nearest of it and its parents that fills its
+// own, as every window does.
+inline QColor backgroundBehind(const QWidget* widget) {
+    while (!widget->isWindow() && !widget->autoFillBackground() && widget->parentWidget())
+        widget = widget->parentWidget();
+    return widget->palette().color(widget->backgroundRole());
+}
+
+// `foreground` where it reads well on `background`, else the nearest variant of it that does
+// (a dark theme's ground under the program's dark blue, say).
+inline QColor readableColour(const QColor& foreground, const QColor& background) {
+    const Rgb c = readableOn({foreground.red(), foreground.green(), foreground.blue()},
+                             {background.red(), background.green(), background.blue()});
+    return {c.r, c.g, c.b};
+}
+
 inline void setTextColour(QWidget* widget, const QColor& foreground) {
     QPalette palette = widget->palette();
-    palette.setColor(QPalette::WindowText, foreground);
+    palette.setColor(QPalette::WindowText, readableColour(foreground, backgroundBehind(widget)));
+    widget->setPalette(palette);
+}
+
+// The theme's selection colours, with the ground of the selection moved just far enough from
+// its text for the text to read well (some themes pair white with a middle blue).
+inline QPalette withReadableSelection(QPalette palette) {
+    for (const auto group : {QPalette::Active, QPalette::Inactive})
+        palette.setColor(group, QPalette::Highlight,
+                         readableColour(palette.color(group, QPalette::Highlight),
+                                        palette.color(group, QPalette::HighlightedText)));
+    return palette;
+}
+
+// A fixed ground, such as the light grey of the windows the game paints itself, with the text
+// colour that goes with it; controls that draw their own ground keep the theme's.
+inline void setGround(QWidget* widget, const QColor& background, const QColor& text) {
+    widget->setAutoFillBackground(true);
+    QPalette palette = widget->palette();
+    palette.setColor(QPalette::Window, background);
+    palette.setColor(QPalette::WindowText, text);
     widget->setPalette(palette);
 }
 

@@ -1,7 +1,9 @@
 #include "ui/die_cell.h"
 
 #include "core/game_state.h"
+#include "platform/picture_book.h"
 #include "ui/accessibility.h"
+#include "ui/main_window_controls.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -34,8 +36,9 @@ DieCell::DieCell(int index, QWidget* parent) : QWidget(parent), m_index(index) {
     setLetter('\0');
 }
 
-void DieCell::setPicture(const QPixmap& picture) {
-    m_picture = picture;
+void DieCell::setPicture(const PictureBook& book, const std::string& name) {
+    m_book = &book;
+    m_name = name;
     update();
 }
 
@@ -48,7 +51,11 @@ void DieCell::setLetter(char letter) {
 void DieCell::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), QColor(0, 64, 0));
-    painter.drawPixmap(0, 0, m_picture);
+    if (!m_book) return;
+    const qreal ratio = devicePixelRatioF();
+    QPixmap picture = m_book->picture(m_name, ratio);
+    if (picture.isNull()) picture = fallbackDie(m_name, ratio);
+    painter.drawPixmap(0, 0, picture);
     if (hasFocus()) drawFocusMark(painter, rect());
 }
 

@@ -2,17 +2,21 @@
 // dice are one stop of the Tab key; the arrow keys move between them.
 #pragma once
 
-#include <QPixmap>
 #include <QWidget>
 
+#include <string>
+
 namespace griglione {
+
+class PictureBook;
 
 class DieCell final : public QWidget {
     Q_OBJECT
 public:
     DieCell(int index, QWidget* parent);
 
-    void setPicture(const QPixmap& picture);
+    // The die shows the picture of that name, drawn for the screen it is on at each paint.
+    void setPicture(const PictureBook& book, const std::string& name);
 
     // The letter the die shows, for screen readers; anything but A–Z is a blank die.
     void setLetter(char letter);
@@ -35,7 +39,8 @@ private:
     void moveFocus(int rows, int columns);
 
     int m_index;
-    QPixmap m_picture;
+    const PictureBook* m_book = nullptr;
+    std::string m_name;
 };
 
 } // namespace griglione

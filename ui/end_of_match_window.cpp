@@ -3,6 +3,7 @@
 #include "platform/fonts.h"
 #include "ui/colours.h"
 #include "ui/message_window.h"
+#include "ui/sharp_picture.h"
 #include "ui/twips.h"
 
 #include <QCoreApplication>
@@ -41,10 +42,7 @@ EndOfMatchWindow::EndOfMatchWindow(QTimer& matchClock, QTimer& opponentClock, So
     setObjectName("Form2");
     setWindowTitle(tr("Il Griglione - Tempo scaduto"));
     setFixedSize(px(6525), px(5475));
-    setAutoFillBackground(true);
-    QPalette palette = this->palette();
-    palette.setColor(QPalette::Window, QColor(192, 192, 192));
-    setPalette(palette);
+    setGround(this, QColor(192, 192, 192), Qt::black);
 
     m_result = label(this, "Label1", "", 720, 120, 5400, 480);
     m_result->setFont(tahoma(14, true));
@@ -123,10 +121,8 @@ void EndOfMatchWindow::showResult(const QString& playerName, int playerScore, in
     exec();
 }
 
-void EndOfMatchWindow::setPicture(const QPixmap& picture) {
-    if (picture.isNull()) return;
-    m_picture->setPixmap(
-        picture.scaled(m_picture->size(), Qt::KeepAspectRatio, Qt::SmoothTransformation));
+void EndOfMatchWindow::setPicture(const PictureBook& book, const std::string& name) {
+    SharpPicture::show(m_picture, book, name, m_picture->size());
 }
 
 void EndOfMatchWindow::goOn() {

@@ -9,6 +9,7 @@
 
 #include <array>
 #include <functional>
+#include <string>
 
 class QLabel;
 class QListWidget;
@@ -17,6 +18,7 @@ class QTimer;
 namespace griglione {
 
 class MessageHost;
+class PictureBook;
 
 class EndOfMatchWindow final : public QDialog {
     Q_OBJECT
@@ -32,7 +34,7 @@ public:
                     const std::array<bool, 4>& levelChecked);
 
     // The decorative picture (Picture3), fitted into its place.
-    void setPicture(const QPixmap& picture);
+    void setPicture(const PictureBook& book, const std::string& name);
 
 protected:
     // Closing it from its frame goes on to the next match, as "&OK" does.

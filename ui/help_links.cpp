@@ -3,6 +3,7 @@
 #include "core/addresses.h"
 #include "core/file_names.h"
 #include "records/record_address.h"
+#include "platform/picture_book.h"
 #include "ui/information_window.h"
 #include "ui/link_cursor.h"
 #include "ui/menu_bar.h"
@@ -65,8 +66,8 @@ void HelpLinks::info() {
         delete m_info;
     }
     // The picture is read again each time, as the window loads it whenever it opens.
-    const QPixmap picture(
-        QString::fromStdString(resolveFileName(m_folder, "griglione.gif").string()));
+    const QPixmap picture =
+        PictureBook(m_folder).picture("griglione.gif", m_window->devicePixelRatioF());
     m_info = new InformationWindow(
         picture, m_messages, [this] { mail(); }, [this] { homePage(); }, m_window);
     m_info->show();

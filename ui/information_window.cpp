@@ -28,15 +28,16 @@ QLabel* text(QWidget* parent, const char* name, const QString& content, const QR
     return label;
 }
 
-QPixmap italianFlag(const QSize& size) {
-    QPixmap flag(size);
+QPixmap italianFlag(const QSize& size, qreal ratio) {
+    QPixmap flag(size * ratio);
+    flag.setDevicePixelRatio(ratio);
     QPainter painter(&flag);
     const int third = size.width() / 3;
     painter.fillRect(0, 0, third, size.height(), QColor(0, 146, 70));
     painter.fillRect(third, 0, size.width() - 2 * third, size.height(), QColor(244, 245, 240));
     painter.fillRect(size.width() - third, 0, third, size.height(), QColor(206, 43, 55));
     painter.setPen(QColor(0, 30, 0));
-    painter.drawRect(flag.rect().adjusted(0, 0, -1, -1));
+    painter.drawRect(QRectF(0.5, 0.5, size.width() - 1, size.height() - 1));
     return flag;
 }
 
@@ -110,7 +111,7 @@ InformationWindow::InformationWindow(const QPixmap& picture, MessageHost& messag
     auto* flag = new QLabel(this);
     flag->setObjectName("Picture1");
     flag->setGeometry(24, 348, 36, 24);
-    flag->setPixmap(italianFlag(flag->size()));
+    flag->setPixmap(italianFlag(flag->size(), devicePixelRatioF()));
     flag->setToolTip(tr("Software Italiano"));
     flag->setAccessibleName(tr("Software Italiano"));
 

@@ -1,23 +1,27 @@
 // The pointers shown over the program's links.
 #include "ui/link_cursor.h"
 
-#include "core/file_names.h"
+#include "platform/picture_book.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPixmap>
 
 namespace griglione {
 
 QCursor linkCursor() {
-    // Loaded afresh on each call: a static pixmap would outlive the application object.
-    const QPixmap hand(QString::fromStdString(resolveFileName(kHandPicture).string()));
+    // Drawn afresh on each call, for the screen's ratio: a static pixmap would outlive the
+    // application object.
+    const QPixmap hand = PictureBook(".").picture(kHandPicture, qApp->devicePixelRatio());
     if (hand.isNull()) return QCursor(Qt::PointingHandCursor);
-    // The tip of the index finger is the hot spot.
-    return QCursor(hand, hand.width() * 9 / 32, 0);
+    // The tip of the index finger is the hot spot, in logical pixels.
+    return QCursor(hand, qRound(hand.deviceIndependentSize().width() * 9 / 32), 0);
 }
 
 QCursor iconCursor() {
-    QPixmap icon(16, 16);
+    const qreal ratio = qApp->devicePixelRatio();
+    QPixmap icon(QSize(16, 16) * ratio);
+    icon.setDevicePixelRatio(ratio);
     icon.fill(Qt::transparent);
     QPainter painter(&icon);
     painter.setPen(Qt::black);

@@ -5,9 +5,11 @@
 #include "platform/game_folder.h"
 #include "platform/interface_translation.h"
 #include "platform/outside_opener.h"
+#include "platform/picture_book.h"
 #include "platform/sound_player.h"
 #include "platform/system_clock.h"
 #include "ui/alert_boxes.h"
+#include "ui/colours.h"
 #include "ui/main_window.h"
 
 #include <QApplication>
@@ -22,6 +24,8 @@ int main(int argc, char* argv[]) {
     griglione::useInterfaceLanguage(griglione::systemInterfaceLanguage(), ".");
     griglione::registerFonts();
     QApplication::setFont(griglione::tahoma(8.25));
+    QApplication::setPalette(griglione::withReadableSelection(QApplication::palette()));
+    QApplication::setWindowIcon(griglione::PictureBook(".").icon("icona.svg"));
 
     griglione::SoundPlayer player;
     griglione::AlertBoxes alerts;

@@ -19,6 +19,7 @@
 #include "ui/options_flow.h"
 #include "ui/path_overlay.h"
 #include "ui/records_flow.h"
+#include "ui/sharp_picture.h"
 #include "ui/time_bar.h"
 #include "ui/twips.h"
 
@@ -65,7 +66,8 @@ MainWindow::MainWindow(Services services)
       m_sounds(m_services.player, [this] { return m_menu.suono->isChecked(); }), m_messages(this),
       m_dictionary(m_state, m_files, m_services.alerts, m_services.yield, m_services.folder),
       m_dealer(m_services.random, m_services.clock),
-      m_board(m_state, m_dealer, m_sounds, m_messages, *this), m_rules(m_services.folder) {
+      m_board(m_state, m_dealer, m_sounds, m_messages, *this), m_rules(m_services.folder),
+      m_pictures(m_services.folder) {
     setObjectName("Form1");
     m_menu = buildMenuBar(menuBar());
     buildControls();
@@ -101,7 +103,7 @@ MainWindow::MainWindow(Services services)
             [this] {
                 return std::pair{m_playerScore->text().toInt(), m_cpuScore->text().toInt()};
             },
-            [this] { return picture("griglione.gif"); }, [this] { focusBoard(); }});
+            m_pictures, [this] { focusBoard(); }});
     wireMenu();
     new HelpLinks(this, m_menu, m_services.outside, m_services.alerts, m_messages,
                   m_services.folder);
@@ -171,17 +173,15 @@ void MainWindow::buildControls() {
     label(area, "Label2", tr("Parola composta"), at(5340, 45, 1995, 195), Qt::white, kBlue);
     m_word = label(area, "Label1", "", at(5340, 270, 1995, 330), Qt::black, QColor(255, 255, 192));
     m_word->setFont(tahoma(12));
-    auto* ok = pictureButton(
-        area, "Command2", tr("&OK"), at(5340, 660, 984, 915),
-        QString::fromStdString(resolveFileName(m_services.folder, "okbutton.gif").string()));
+    auto* ok = pictureButton(area, "Command2", tr("&OK"), at(5340, 660, 984, 915),
+                             m_pictures.icon("okbutton.gif"));
     connect(ok, &QToolButton::clicked, this, [this] { m_submission->inviaParola(); });
     m_keys->watch(ok);
     // Alt+O belongs to the "&Opzioni" menu: shared with the button, the first press would only
     // move the focus. Enter submits the word anyway.
     ok->setShortcut(QKeySequence());
-    auto* clear = pictureButton(
-        area, "Command1", tr("&Azzera "), at(6360, 660, 984, 915),
-        QString::fromStdString(resolveFileName(m_services.folder, "azzera.gif").string()));
+    auto* clear = pictureButton(area, "Command1", tr("&Azzera "), at(6360, 660, 984, 915),
+                                m_pictures.icon("azzera.gif"));
     connect(clear, &QToolButton::clicked, this, [this] { m_board.azzera(); });
     m_keys->watch(clear);
 
@@ -265,7 +265,7 @@ void MainWindow::startUp() {
     m_menu.spessori[width]->setChecked(true);
     settaSpessLinea();
     aggMenudiz();
-    m_logo->setPixmap(picture("griglione.gif"));
+    SharpPicture::show(m_logo, m_pictures, "griglione.gif");
 }
 
 void MainWindow::salvaImpostazioni() {
@@ -318,22 +318,11 @@ void MainWindow::quit() {
     QApplication::quit();
 }
 
-QPixmap MainWindow::picture(const std::string& name) {
-    const QString key = QString::fromStdString(name);
-    auto it = m_pictures.find(key);
-    if (it == m_pictures.end()) {
-        QPixmap pixmap(QString::fromStdString(resolveFileName(m_services.folder, name).string()));
-        if (pixmap.isNull() && name.rfind("zarM", 0) == 0) pixmap = fallbackDie(name);
-        it = m_pictures.insert(key, pixmap);
-    }
-    return *it;
-}
-
 void MainWindow::changed(Aspect aspect) {
     switch (aspect) {
     case Aspect::Board:
         for (int n = 0; n < kCells; ++n) {
-            m_cells[n]->setPicture(picture(m_state.immagineCella[n]));
+            m_cells[n]->setPicture(m_pictures, m_state.immagineCella[n]);
             m_cells[n]->setLetter(letteraCella(m_state, n));
         }
         break;

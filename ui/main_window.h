@@ -13,6 +13,7 @@
 #include "dictionary/open_file_table.h"
 #include "dictionary/rules_text.h"
 #include "opponent/opponent_walk.h"
+#include "platform/picture_book.h"
 #include "ui/confirm_window.h"
 #include "ui/menu_bar.h"
 #include "ui/message_window.h"
@@ -93,7 +94,6 @@ private:
     void focusBoard();
     void showRules();
     void quit();
-    QPixmap picture(const std::string& name);
 
     Services m_services;
     GameState m_state;
@@ -130,7 +130,7 @@ private:
     TimeBar* m_timeBar = nullptr;         // Picture2
     PathOverlay* m_pathOverlay = nullptr; // the traced path over the dice
     std::array<QWidget*, 2> m_frames{};   // Shape1(0) frame and Shape1(1) shadow
-    QHash<QString, QPixmap> m_pictures;
+    PictureBook m_pictures;
 };
 
 } // namespace griglione

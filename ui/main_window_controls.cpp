@@ -29,6 +29,8 @@ QListWidget* wordList(QWidget* parent, const char* name, const QRect& geometry,
     list->setGeometry(geometry);
     QPalette palette = list->palette();
     palette.setColor(QPalette::Base, background);
+    // The words stay dark on the list's fixed light ground under a dark theme too.
+    palette.setColor(QPalette::Text, Qt::black);
     list->setPalette(palette);
     return list;
 }
@@ -41,20 +43,21 @@ void showWords(QListWidget* list, const std::vector<std::string>& words) {
 }
 
 QToolButton* pictureButton(QWidget* parent, const char* name, const QString& text,
-                           const QRect& geometry, const QString& pictureFile) {
+                           const QRect& geometry, const QIcon& picture) {
     auto* button = new QToolButton(parent);
     button->setObjectName(name);
     button->setText(text);
     button->setGeometry(geometry);
-    button->setIcon(QIcon(pictureFile));
+    button->setIcon(picture);
     button->setIconSize(QSize(32, 32));
     button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     button->setFocusPolicy(Qt::StrongFocus);
     return button;
 }
 
-QPixmap fallbackDie(const std::string& name) {
-    QPixmap die(64, 64);
+QPixmap fallbackDie(const std::string& name, qreal ratio) {
+    QPixmap die(QSize(64, 64) * ratio);
+    die.setDevicePixelRatio(ratio);
     die.fill(kDarkGreen);
     QPainter painter(&die);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -64,7 +67,7 @@ QPixmap fallbackDie(const std::string& name) {
     if (name.size() > 7 && name != kBlankDie) {
         painter.setFont(tahoma(26, true));
         painter.setPen(Qt::black);
-        painter.drawText(die.rect(), Qt::AlignCenter, QString(QChar(name[6])));
+        painter.drawText(QRect(0, 0, 64, 64), Qt::AlignCenter, QString(QChar(name[6])));
     }
     return die;
 }

@@ -5,6 +5,7 @@
 #include "ui/colours.h"
 
 #include <QColor>
+#include <QIcon>
 #include <QPixmap>
 #include <QRect>
 #include <QString>
@@ -29,9 +30,10 @@ QListWidget* wordList(QWidget* parent, const char* name, const QRect& geometry,
 void showWords(QListWidget* list, const std::vector<std::string>& words);
 
 QToolButton* pictureButton(QWidget* parent, const char* name, const QString& text,
-                           const QRect& geometry, const QString& pictureFile);
+                           const QRect& geometry, const QIcon& picture);
 
-// A die drawn when its picture file is missing, so the board stays playable.
-QPixmap fallbackDie(const std::string& name);
+// A die drawn when its picture file is missing, so the board stays playable; for a screen of
+// `ratio` device pixels to a logical pixel.
+QPixmap fallbackDie(const std::string& name, qreal ratio = 1);
 
 } // namespace griglione

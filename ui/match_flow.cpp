@@ -73,7 +73,7 @@ void MatchFlow::endOfMatch() {
             if (!review) review = new ReviewWindow(m_endOfMatch);
             review->showBoard(m_state, m_services.folder);
         });
-        m_endOfMatch->setPicture(m_screen.logo());
+        m_endOfMatch->setPicture(m_screen.pictures, "griglione.gif");
     }
     m_endOfMatch->hide();
     const auto [player, cpu] = m_screen.scores();

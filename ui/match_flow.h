@@ -5,8 +5,8 @@
 #include "board/board_game.h"
 #include "core/game_state.h"
 #include "core/ports.h"
+#include "platform/picture_book.h"
 
-#include <QPixmap>
 #include <QString>
 
 #include <functional>
@@ -33,7 +33,7 @@ public:
         QLabel& seconds;
         std::function<QString()> playerName;
         std::function<std::pair<int, int>()> scores; // as the two score labels show them
-        std::function<QPixmap()> logo;
+        const PictureBook& pictures; // the logo of the end-of-match window
         std::function<void()> focusBoard;
     };
 

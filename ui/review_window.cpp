@@ -1,6 +1,5 @@
 #include "ui/review_window.h"
 
-#include "core/file_names.h"
 #include "core/number_text.h"
 #include "platform/fonts.h"
 #include "review/word_list.h"
@@ -42,10 +41,7 @@ ReviewWindow::ReviewWindow(QWidget* parent) : QDialog(parent) {
     setObjectName("Form10");
     setWindowTitle(tr("Il Griglione - Parole del tabellone"));
     setFixedSize(kWidth, kHeight);
-    setAutoFillBackground(true);
-    QPalette palette = this->palette();
-    palette.setColor(QPalette::Window, QColor(192, 192, 192));
-    setPalette(palette);
+    setGround(this, QColor(192, 192, 192), Qt::black);
 
     m_total = new QLabel(this);
     m_total->setObjectName("Label1");
@@ -65,9 +61,9 @@ void ReviewWindow::load(const GameState& state, const std::filesystem::path& fol
     m_total->setText(
         tr("Il tabellone nascondeva %1 per %2 punti in tutto.")
             .arg(words(static_cast<std::size_t>(m_review.words)), points(m_review.points)));
+    if (!m_pictures) m_pictures.emplace(folder);
     for (int n = 0; n < kCells; ++n) {
-        const auto file = resolveFileName(folder, state.immagineCella[n]);
-        m_cells[n]->setPicture(QPixmap(QString::fromStdString(file.string())));
+        m_cells[n]->setPicture(*m_pictures, state.immagineCella[n]);
         m_cells[n]->setLetter(m_letters[n]);
     }
     m_overlay->setLineWidth(state.spessoreLinea + 5);

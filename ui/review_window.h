@@ -4,12 +4,14 @@
 
 #include "board/path.h"
 #include "core/game_state.h"
+#include "platform/picture_book.h"
 #include "review/board_review.h"
 
 #include <QDialog>
 
 #include <array>
 #include <filesystem>
+#include <optional>
 #include <vector>
 
 class QLabel;
@@ -47,6 +49,7 @@ private:
     int m_filter = -1; // the die whose words alone are shown; -1 for all
     Path m_path;
     std::array<DieCell*, kCells> m_cells{};
+    std::optional<PictureBook> m_pictures; // made at the first opening, kept with its renderings
     PathOverlay* m_overlay = nullptr;
     QWidget* m_marker = nullptr; // the frame around the filtering die
     QPushButton* m_close = nullptr;

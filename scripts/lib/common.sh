@@ -1,8 +1,9 @@
 # Shared by scripts/play and scripts/test: install the Debian packages the build needs, then
 # configure and build with the default preset.
 
-BUILD_PACKAGES=(cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev libgtest-dev libgmock-dev
-    qt6-tools-dev qt6-l10n-tools fonts-wine fonts-liberation pkg-config libcpp-httplib-dev libsqlite3-dev)
+BUILD_PACKAGES=(cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev qt6-svg-dev libgtest-dev
+    libgmock-dev qt6-tools-dev qt6-l10n-tools fonts-wine fonts-liberation pkg-config
+    libcpp-httplib-dev libsqlite3-dev)
 
 install_missing() {
     local missing=()

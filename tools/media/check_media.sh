@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Checks the pictures and sounds that make_media.sh writes: every file present under its exact
-# name, pictures of the right kind and size, sounds short, in the agreed format and click-free.
+# name, pictures of the right kind and size beside a vector source of that size, sounds short, in
+# the agreed format and click-free.
 # Usage: tools/media/check_media.sh [folder, default data/ of this repository]
 set -uo pipefail
 export LC_ALL=C
@@ -28,6 +29,12 @@ picture() {
     [ "$frames" = 1 ] || fail "$1 should hold one picture, holds $frames"
     [ "$(printf '%s\n' "$got" | head -1)" = "GIF $2 $3" ] ||
         fail "$1 should be a GIF of $2x$3 pixels, is '$(printf '%s' "$got" | head -1)'"
+    local source=$DIR/${1%.gif}.svg
+    if [ ! -f "$source" ]; then
+        fail "${1%.gif}.svg, the vector source of $1, is missing"
+    elif ! head -1 "$source" | grep -q "width=\"$2\" height=\"$3\""; then
+        fail "${1%.gif}.svg should be $2x$3 like $1"
+    fi
     if [ $# -ge 4 ]; then
         got=$(identify -format '%[pixel:p{0,0}]' "$f" 2>/dev/null)
         [ "$got" = "$4" ] || fail "$1 should have $4 in its corner (the board's green), has $got"
@@ -75,6 +82,7 @@ picture griglione.gif 160 84 "$GREEN"
 picture okbutton.gif 32 32
 picture azzera.gif 32 32
 picture manina.gif 32 32
+[ -f "$DIR/icona.svg" ] || fail "icona.svg, the program's icon, is missing"
 
 # Every die differs from every other: no face or letter was left out or drawn twice.
 dupes=$(cd "$DIR" && md5sum zarMmg??.gif zarMolo.gif 2>/dev/null | sort | uniq -w32 -D |

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Remakes the game's pictures (dice, logo, buttons, link pointer) and sounds in data/, byte for
-# byte the same on every run.
+# Remakes the game's pictures (dice, logo, buttons, link pointer, icon: SVG sources and GIFs drawn
+# from them) and sounds in data/, byte for byte the same on every run.
 # Usage: tools/media/make_media.sh [output folder, default data/ of this repository]
 set -euo pipefail
 export LC_ALL=C
@@ -47,6 +47,7 @@ find_convert() {
 find_convert >/dev/null || install_packages imagemagick
 command -v sox >/dev/null || install_packages sox
 if [ ! -f "$BOLD" ] || [ ! -f "$SERIF_ITALIC" ]; then install_packages fonts-dejavu-core; fi
+/usr/bin/python3 -c 'import fontTools' 2>/dev/null || install_packages python3-fonttools
 IM=$(find_convert) || { echo "make_media: ImageMagick's convert is still missing" >&2; exit 1; }
 
 WORK=$(mktemp -d)
@@ -70,155 +71,37 @@ gif() {
 
 calc() { awk "BEGIN { print $1 }"; }
 
-# --- dice ----------------------------------------------------------------------------------------
+# --- pictures ------------------------------------------------------------------------------------
 
-INK='#2a1808'          # the letters: very dark brown, almost black
-SIZE=64
-CAP_PT=52              # DejaVu Sans Bold at 52 px has capitals 38 px high
-MAX_W=46               # wider capitals (W, M) are narrowed to this width so they keep a margin
+# The vector sources (SVG) are what the game draws, sharp at any screen scale; the GIFs under the
+# names the game keeps are renderings of them at 1:1 for anything that wants a raster picture.
+/usr/bin/python3 "$HERE/make_pictures.py" "$OUT"
 
-# Faces 1 to 4 of a letter: ivory, pale yellow, pale blue, pale pink; the blank die is ivory.
-# Each has the top face's colour, its lighter centre, the side seen at the bevel, and the rim.
-FACE=(''  '#fbf5e2' '#fcefb8' '#dbe7f6' '#f8dce4')
-CENTRE=('' '#fffdf4' '#fff8d8' '#eef4fc' '#fdeef2')
-SIDE=(''  '#cdbf98' '#d4be6c' '#9fb3cf' '#cfa2b0')
-EDGE=(''  '#6f6244' '#75622a' '#4e6079' '#775060')
-
-# A die without a letter: rounded body with a light upper-left and a shaded lower-right bevel,
-# a slightly domed top face, a thin dark rim so neighbouring dice stay apart.
-make_body() {
-    local n=$1 out=$2
-    im -size ${SIZE}x${SIZE} xc:"$GREEN" \
-        \( -size ${SIZE}x${SIZE} xc: -sparse-color Bilinear \
-            "0,0 #ffffff 63,0 ${SIDE[n]} 0,63 ${SIDE[n]} 63,63 ${EDGE[n]}" \) \
-        \( -size ${SIZE}x${SIZE} xc:black -fill white -draw 'roundrectangle 1,1 62,62 11,11' \) \
-        -composite \
-        -fill none -stroke "${EDGE[n]}" -strokewidth 1 -draw 'roundrectangle 1,1 62,62 11,11' \
-        \( -size 52x52 radial-gradient:"${CENTRE[n]}-${FACE[n]}" \
-            \( -size 52x52 xc:black -fill white -draw 'roundrectangle 0,0 51,51 9,9' \) \
-            -alpha off -compose CopyOpacity -composite \) \
-        -compose Over -geometry +5+5 -composite \
-        "$out"
-}
-
-for n in 1 2 3 4; do make_body $n "$WORK/body$n.png"; done
-
-# Capitals are centred on the band between the top and the foot of "H", so that all letters
-# share one baseline height and only Q and J reach below it.
-read -r _ CAP_H _ CAP_TOP < <(im -size 128x128 xc:none -font "$BOLD" -pointsize $CAP_PT \
-    -fill black -annotate +24+96 H -format '%@\n' info: | sed -E 's/[x+]/ /g')
-CAP_MID2=$((2 * CAP_TOP + CAP_H)) # twice the middle of the capitals' band
+# Renders with Qt SVG, as the game does: the project's own small tool, built when missing.
+RENDER=${RENDER_SVG:-$HERE/../../build/tools/media/render_svg}
+if [ ! -x "$RENDER" ]; then
+    (cd "$HERE/../.." && cmake --preset default >/dev/null &&
+        cmake --build --preset default --target render_svg)
+fi
+raster() { "$RENDER" "$OUT/$1.svg" "$WORK/$1.png" "$2" "$3"; }
 
 for L in {A..Z}; do
-    # Bounding box of the glyph drawn at a fixed origin.
-    read -r W H X Y < <(im -size 128x128 xc:none -font "$BOLD" -pointsize $CAP_PT \
-        -fill black -annotate +24+96 "$L" -format '%@\n' info: | sed -E 's/[x+]/ /g')
-    NW=$W
-    [ "$W" -gt $MAX_W ] && NW=$MAX_W
-    dx=$(((SIZE - NW) / 2))
-    dy=$(((2 * Y - CAP_MID2 + SIZE) / 2))
-    # The letter itself, with a faint light rim below and to the right, as if cut into the face.
-    im -size 128x128 xc:none -font "$BOLD" -pointsize $CAP_PT \
-        -fill 'rgba(255,255,255,0.55)' -annotate +25+97 "$L" \
-        -fill "$INK" -annotate +24+96 "$L" \
-        -crop "$((W + 1))x$((H + 1))+$X+$Y" +repage \
-        -resize $((NW + 1))x$((H + 1))! \
-        "$WORK/glyph$L.png"
     for n in 1 2 3 4; do
-        gif "$WORK/body$n.png" "$WORK/glyph$L.png" -geometry +$dx+$dy -composite \
-            "$OUT/zarMmg$L$n.gif"
+        raster "zarMmg$L$n" 64 64
+        gif "$WORK/zarMmg$L$n.png" -alpha off "$OUT/zarMmg$L$n.gif"
     done
 done
+raster zarMolo 64 64
+gif "$WORK/zarMolo.png" -alpha off "$OUT/zarMolo.gif"
+raster griglione 160 84
+gif "$WORK/griglione.png" -alpha off "$OUT/griglione.gif"
 
-# The blank die: the ivory die with a small engraved diamond in the middle, and no letter.
-gif "$WORK/body1.png" \
-    -fill 'rgba(255,255,255,0.7)' -draw 'polygon 32,25 40,33 32,41 24,33' \
-    -fill '#d9ccaa' -draw 'polygon 32,24 39,31 32,38 25,31' \
-    -fill '#e9dfc4' -draw 'polygon 32,28 35,31 32,34 29,31' \
-    "$OUT/zarMolo.gif"
-
-# --- logo ----------------------------------------------------------------------------------------
-
-# "Il Griglione" in warm yellow to orange with a dark brown outline and a shadow, on the board's
-# green; "Il" in a serif italic so that its two strokes cannot be read as "ll", and at the top
-# right a little 3 x 3 grid of dice with a word traced across it. A gentle wave makes letters bob.
-# One yellow-to-orange run for each line of the title.
-im -size 160x38 gradient:'#fffa90-#ff7a00' -size 160x8 xc:'#fffa90' \
-    -size 160x32 gradient:'#fffa90-#ff5a00' -size 160x6 xc:'#ff5a00' -append "$WORK/warm.png"
-grid=()
-for r in 0 1 2; do
-    for c in 0 1 2; do
-        x=$((119 + c * 12)) y=$((4 + r * 12))
-        colour='#f6efd8'
-        case $r$c in 00 | 11 | 12 | 22) colour='#ffb020' ;; esac
-        grid+=(-fill '#062206'
-            -draw "roundrectangle $((x + 1)),$((y + 1)) $((x + 11)),$((y + 11)) 2,2")
-        grid+=(-fill "$colour" -draw "roundrectangle $x,$y $((x + 10)),$((y + 10)) 2,2")
-    done
+# Buttons and pointer on a transparent ground: GIF keeps a pixel or drops it, so the soft edges
+# are cut at half their opacity.
+for name in okbutton azzera manina; do
+    raster $name 32 32
+    im "$WORK/$name.png" -channel A -threshold 50% +channel -strip "GIF:$OUT/$name.gif"
 done
-# title <font> <size> <x> <y> <text>: shadow, outline, then the warm fill.
-title() {
-    printf '%s\n' -font "$1" -pointsize "$2" \
-        -fill 'rgba(0,0,0,0.6)' -stroke 'rgba(0,0,0,0.6)' -strokewidth 4 \
-        -annotate "+$(($3 + 2))+$(($4 + 2))" "$5" \
-        -fill '#3a1a00' -stroke '#3a1a00' -strokewidth 4 -annotate "+$3+$4" "$5" \
-        -stroke none -tile "$WORK/warm.png" -annotate "+$3+$4" "$5" +tile
-}
-mapfile -t words < <(title "$BOLD" 29 6 40 Griglione; title "$SERIF_ITALIC" 28 14 4 Il)
-gif -size 160x84 xc:"$GREEN" \
-    "${grid[@]}" \
-    -fill none -stroke '#c84000' -strokewidth 2 -draw 'polyline 124,9 136,21 148,21 148,33' \
-    -stroke none \
-    \( -size 160x84 xc:none -gravity northwest "${words[@]}" \
-        -background none -wave 1.5x100 -crop 160x84+0+0 +repage \) \
-    -composite \
-    "$OUT/griglione.gif"
-
-# --- buttons -------------------------------------------------------------------------------------
-
-# Drawn on a light grey that then becomes transparent: the soft edges blend into a light button.
-BUTTON_BG='#e4e4e4'
-ROUND='stroke-linecap round stroke-linejoin round'
-gif -size 32x32 xc:"$BUTTON_BG" -fill none \
-    -stroke '#0b4d10' -strokewidth 8 -draw "$ROUND polyline 6,17 13,24 26,8" \
-    -stroke '#2fb335' -strokewidth 5 -draw "$ROUND polyline 6,17 13,24 26,8" \
-    -stroke '#8be07f' -strokewidth 1.5 -draw "$ROUND polyline 6,16 13,23 25.5,7.5" \
-    -transparent "$BUTTON_BG" \
-    "$OUT/okbutton.gif"
-
-# A red arrow curling back to the left: undo everything traced. Dark outlines first, then the
-# red strokes over them, so the arrow's head and shaft join without a seam.
-# (Sampled as a polyline: this ImageMagick strokes an open curved path as if it were closed.)
-ARC="polyline 10,10 $(awk 'BEGIN { for (a = -90; a <= 90; a += 10) {
-    r = a * 3.14159265 / 180; printf "%.2f,%.2f ", 19 + 9 * cos(r), 19 + 9 * sin(r) } }') 9,28"
-HEAD='polygon 2.5,10 11,3 11,17'
-gif -size 32x32 xc:"$BUTTON_BG" \
-    -fill none -stroke '#5a0c08' -strokewidth 6 -draw "$ROUND $ARC" \
-    -fill '#5a0c08' -stroke '#5a0c08' -strokewidth 3 -draw "stroke-linejoin round $HEAD" \
-    -fill none -stroke '#d8281c' -strokewidth 3.5 -draw "$ROUND $ARC" \
-    -fill '#d8281c' -stroke none -draw "$HEAD" \
-    -fill none -stroke '#f07a6a' -strokewidth 1 -draw 'polyline 12,9 19,9 23,9.8 26,11.6 27.6,14' \
-    -transparent "$BUTTON_BG" \
-    "$OUT/azzera.gif"
-
-# --- pointer -------------------------------------------------------------------------------------
-
-# The hand shown over the program's links: a white hand pointing up with a black outline, drawn
-# without anti-aliasing on a transparent ground, since a pointer has no soft edges. The shapes are
-# drawn once fat in black and once in white, so the outline goes round their union only.
-HAND=(-draw 'roundrectangle 7,1 12,19 2.5,2.5'
-    -draw 'roundrectangle 12,10 16.5,20 2.2,2.2'
-    -draw 'roundrectangle 16,11 20.5,21 2.2,2.2'
-    -draw 'roundrectangle 20,12 24.5,21 2.2,2.2'
-    -draw 'roundrectangle 7,16 24.5,29 4,4'
-    -draw 'roundrectangle 2,16 10,22 3,3')
-im -size 32x32 xc:none +antialias \
-    -fill black -stroke black -strokewidth 2 "${HAND[@]}" \
-    -fill white -stroke none "${HAND[@]}" \
-    -stroke black -strokewidth 1 \
-    -draw 'line 12,12 12,18' -draw 'line 16,13 16,18' -draw 'line 20,14 20,18' \
-    -draw 'line 8,21 10,21' \
-    -strip "GIF:$OUT/manina.gif"
 
 # --- sounds --------------------------------------------------------------------------------------
 
