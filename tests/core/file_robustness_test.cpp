@@ -50,8 +50,7 @@ TEST(FileRobustness, AFailedWriteLeavesTheOldFilesByteForByte) {
         std::optional<std::size_t> limit;
         std::errc reason;
     } cases[] = {
-        {"write-protected, even for a superuser", fs::perms::owner_read, std::nullopt,
-         std::errc::permission_denied},
+        {"read-only, even to root", fs::perms::owner_read, {}, std::errc::permission_denied},
         {"disk full at once", fs::perms::owner_all, 0, std::errc::no_space_on_device},
         {"disk full part-way", fs::perms::owner_all, 7, std::errc::no_space_on_device},
     };

@@ -46,10 +46,8 @@ TEST(BoardReview, SplitsSortsCountsAndFiltersTheThreeLists) {
               std::tuple(1000, 1000, 8, 2180));
     EXPECT_EQ(review.player.entries[3].path, (std::vector<int>{7, 6, 5}));
 
-    const std::tuple<int, Words, Words> filters[] = {{0, {"case", "orca"}, {"arco", "oca"}},
-                                                     {7, {"tor"}, {"rotta"}},
-                                                     {2, {"case"}, {}},
-                                                     {4, {}, {}}};
+    const std::tuple<int, Words, Words> filters[] = {
+        {0, {"case", "orca"}, {"arco", "oca"}}, {7, {"tor"}, {"rotta"}}, {2, {"case"}, {}}};
     for (const auto& [cell, player, missed] : filters) {
         EXPECT_EQ(words(throughCell(review.player, cell)), player) << cell;
         EXPECT_EQ(words(throughCell(review.missed, cell)), missed) << cell;

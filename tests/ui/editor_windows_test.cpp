@@ -63,8 +63,7 @@ private slots:
         QTRY_VERIFY(loaded());
         QVERIFY(QTest::qWaitForWindowActive(window.get()));
         QCOMPARE(text("Label6"), QString("Il Griglione - Dizionario principale in Italiano"));
-        QCOMPARE(text("Label2_0"), QString("(2) parole"));
-        QCOMPARE(text("Label4"), QString("4"));
+        QCOMPARE(text("Label2_0") + "|" + text("Label4"), QString("(2) parole|4"));
         QCOMPARE(child<QComboBox>(window.get(), "Combo1_1")->currentText(), QString("CASA"));
 
         enter(Qt::Key_A, "luJn1a"); // J and 1 are dropped, letters go to upper case
@@ -72,8 +71,7 @@ private slots:
                  QString("La parola 'LUNA' è stata momentaneamente aggiunta al "
                          "dizionario, cliccare sul bottone 'Crea dizionario' "
                          "per la ricostruzione definitiva sul disco."));
-        QCOMPARE(text("Label2_1"), QString("(3) Parole"));
-        QCOMPARE(text("Label4"), QString("5"));
+        QCOMPARE(text("Label2_1") + "|" + text("Label4"), QString("(3) Parole|5"));
         QVERIFY(!entry()->isVisible());
         enter(Qt::Key_A, "casa");
         QCOMPARE(editor->lastAlert(), QString("La parola 'CASA' esiste già nel dizionario."));
@@ -103,15 +101,14 @@ private slots:
         std::filesystem::permissions(file, std::filesystem::perms::owner_read);
         editor->answers = {true};
         key(Qt::Key_R, Qt::AltModifier);
-        QTRY_VERIFY(editor->lastAlert().startsWith("Errore 0005"));
-        QCOMPARE(editor->lastAlert(),
-                 QString("Errore 0005: il dizionario non è stato ricreato, impossibile scrivere il "
-                         "file SLESSICO.1 nella posizione: %1 (%2). Resta in uso il dizionario di "
-                         "prima e le modifiche restano negli elenchi.")
-                     .arg(QString::fromStdString(editor->folder.path().string()),
-                          std::make_error_code(std::errc::permission_denied).message().c_str()));
-        QCOMPARE(text("Label2_0") + text("Label2_2") + text("Label3"),
-                 QString("(1) Parole(0) parole"));
+        QTRY_COMPARE(
+            editor->lastAlert(),
+            QString("Errore 0005: il dizionario non è stato ricreato, impossibile scrivere il "
+                    "file SLESSICO.1 nella posizione: %1 (%2). Resta in uso il dizionario di "
+                    "prima e le modifiche restano negli elenchi.")
+                .arg(QString::fromStdString(editor->folder.path().string()),
+                     std::make_error_code(std::errc::permission_denied).message().c_str()));
+        QCOMPARE(text("Label2_0") + text("Label2_2"), QString("(1) Parole(0) parole"));
         std::filesystem::permissions(file, std::filesystem::perms::owner_all);
         // While it writes, "&Uscita" is off and a second rebuild is refused.
         bool exitWasOff = false;

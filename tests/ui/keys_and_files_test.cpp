@@ -175,10 +175,8 @@ private slots:
         editor.setGeometry(500, 300, 300, 200);
         QRect box;
         QTimer::singleShot(0, &editor, [&] {
-            QTimer::singleShot(20, [&] {
-                box = QApplication::activeModalWidget()->geometry();
-                QApplication::activeModalWidget()->close();
-            });
+            QTimer::singleShot(20, [&] { box = QApplication::activeModalWidget()->geometry(); });
+            QTimer::singleShot(30, [] { QApplication::activeModalWidget()->close(); });
             AlertBoxes(&main).avviso("No");
             editor.accept();
         });
