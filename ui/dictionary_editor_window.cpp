@@ -284,7 +284,8 @@ void DictionaryEditorWindow::ricreaDizionario() {
         for (int i = 0; i < kLists; ++i)
             m_counts[i]->setText(counts[i]);
         const auto file = std::filesystem::absolute(
-            rebuiltFileName(m_context.folder, m_context.state.numDizionario));
+                              rebuiltFileName(m_context.folder, m_context.state.numDizionario))
+                              .lexically_normal();
         m_context.alerts.avviso(
             tr("Errore 0005: il dizionario non è stato ricreato, impossibile scrivere il file %1 "
                "nella posizione: %2 (%3). Resta in uso il dizionario di prima e le modifiche "
