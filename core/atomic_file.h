@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace griglione {
 
@@ -24,15 +25,25 @@ std::optional<std::string> readWholeFile(const std::filesystem::path& path);
 // is writable when its folder is.
 bool mayWrite(const std::filesystem::path& path);
 
-// Writes `bytes` to a temporary file beside `path`, then renames it over `path`. When the folder
-// refuses the temporary file but `path` itself may be written, it is rewritten in place. False,
-// with `path` untouched, when any step fails (or when `path` is write-protected). Like appending,
-// it writes a file of the read-only data folder into the player's folder instead (see
-// writableFileName).
-bool writeFileAtomically(const std::filesystem::path& path, std::string_view bytes);
+// Why `path` may not be written (a folder in its place, no permission); empty when it may.
+std::error_code writeRefusal(const std::filesystem::path& path);
 
-// Adds `bytes` at the end of the file, creating it when missing. On failure the file is cut back
-// to its old length, so it never keeps half a line.
+// Writes `bytes` to a temporary file beside `path`, flushes it to the disk, renames it over
+// `path` and flushes the folder, so that a power cut leaves the old file or the new one, never an
+// empty one. When the folder refuses the temporary file but `path` itself may be written, it is
+// rewritten in place. False, with `path` untouched and the system's reason in `why`, when any
+// step fails (or when `path` is write-protected). Like appending, it writes a file of the
+// read-only data folder into the player's folder instead (see writableFileName).
+bool writeFileAtomically(const std::filesystem::path& path, std::string_view bytes,
+                         std::error_code* why = nullptr);
+
+// Renames `from` over `to` and flushes their folder; false, with the reason in `why`, on failure.
+bool renameDurably(const std::filesystem::path& from, const std::filesystem::path& to,
+                   std::error_code* why = nullptr);
+
+// Adds `bytes` at the end of the file, creating it when missing, and flushes it to the disk
+// before it answers. On failure the file is cut back to its old length, so it never keeps half a
+// line.
 bool appendToFile(const std::filesystem::path& path, std::string_view bytes);
 
 // Test seam for a disk that fills up: while set, every write made by writeFileAtomically and

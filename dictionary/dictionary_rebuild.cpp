@@ -52,28 +52,30 @@ std::string rebuiltNotice(const std::filesystem::path& oldFile, std::string_view
     return noticeText(fallback);
 }
 
-bool rebuildDictionary(const std::filesystem::path& folder, int numDizionario,
-                       std::string_view notice, const WordLists& words) {
-    const std::string bytes = buildDictionaryFile(notice, words);
-    if (bytes.empty()) return false;
+std::filesystem::path rebuiltFileName(const std::filesystem::path& folder, int numDizionario) {
     // A shipped dictionary read from the installed data folder is rebuilt into the player's own.
-    const auto target =
-        writableFileName(resolveFileName(folder, dictionaryFileName(numDizionario)));
+    return writableFileName(resolveFileName(folder, dictionaryFileName(numDizionario)));
+}
+
+bool rebuildDictionary(const std::filesystem::path& folder, int numDizionario,
+                       std::string_view notice, const WordLists& words, std::error_code* why) {
+    const auto fail = [why](std::error_code reason) {
+        if (why) *why = reason;
+        return false;
+    };
+    const std::string bytes = buildDictionaryFile(notice, words);
+    if (bytes.empty()) return fail(std::make_error_code(std::errc::file_too_large));
+    const auto target = rebuiltFileName(folder, numDizionario);
     const auto fresh = writableFileName(resolveFileName(folder, kNewDictionaryFileName));
     // A write-protected dictionary stays as it is, although the rename could replace it.
-    if (!mayWrite(target)) return false;
+    if (const std::error_code refusal = writeRefusal(target)) return fail(refusal);
     std::error_code error;
     // A leftover of an interrupted rebuild goes first; anything else in its way stops the work.
     if (std::filesystem::exists(std::filesystem::symlink_status(fresh, error)) &&
         !std::filesystem::remove(fresh, error))
-        return false;
-    if (!writeFileAtomically(fresh, bytes)) return false;
-    std::filesystem::rename(fresh, target, error);
-    if (error) {
-        std::filesystem::remove(fresh, error);
-        return false;
-    }
-    return true;
+        return fail(error);
+    if (!writeFileAtomically(fresh, bytes, why)) return false;
+    return renameDurably(fresh, target, why);
 }
 
 } // namespace griglione

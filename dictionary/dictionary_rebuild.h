@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <system_error>
 
 namespace griglione {
 
@@ -32,8 +33,14 @@ std::string rebuiltNotice(const std::filesystem::path& oldFile, std::string_view
 
 // Writes the whole dictionary as SLESSICO.new in `folder` and renames it over SLESSICO.<n>, which
 // is replaced in one step: whenever the work stops, the folder holds the old file or the new one,
-// whole. False, with the old file untouched and no SLESSICO.new left, when any step fails.
+// whole, and both are flushed to the disk. False, with the old file untouched, no SLESSICO.new
+// left and the system's reason in `why`, when any step fails.
 bool rebuildDictionary(const std::filesystem::path& folder, int numDizionario,
-                       std::string_view notice, const WordLists& words);
+                       std::string_view notice, const WordLists& words,
+                       std::error_code* why = nullptr);
+
+// The file a rebuild writes: SLESSICO.<n> in the player's folder when the shipped one is in the
+// installed data folder.
+std::filesystem::path rebuiltFileName(const std::filesystem::path& folder, int numDizionario);
 
 } // namespace griglione

@@ -42,11 +42,12 @@ TabellaRecord riempiTabella(GameState& state, std::string_view nomeGiocatore,
                             const std::filesystem::path& file) {
     const std::optional<RecordTable> read = readTable(file);
     RecordTable table = read.value_or(RecordTable{});
+    bool saved = true;
     if (state.inserisciRecord) {
         state.inserisciRecord = false;
         table.enter(std::string(nomeGiocatore), state.puntiGiocatore);
-        // A failed write leaves the old file whole; this window reports nothing.
-        if (read) writeFileAtomically(file, table.fileBytes());
+        // A failed write leaves the old file whole.
+        saved = read && writeFileAtomically(file, table.fileBytes());
     }
     TabellaRecord shown;
     shown.righe = table.listLines();
@@ -54,6 +55,8 @@ TabellaRecord riempiTabella(GameState& state, std::string_view nomeGiocatore,
     const std::optional<int> place = table.placeOf(nomeGiocatore, state.puntiGiocatore);
     shown.selezione = place.value_or(1);
     shown.invioPossibile = place && *place <= 2;
+    // A score too low for the fifty places was never to be kept.
+    shown.nonSalvato = !saved && place;
     return shown;
 }
 

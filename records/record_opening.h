@@ -23,11 +23,13 @@ struct TabellaRecord {
     std::string primo;              // the name in first place
     int selezione = 1;              // the list line to select, the header being line 0
     bool invioPossibile = false;    // the player holds place 1 or 2 with this score
+    bool nonSalvato = false;        // the score entered is in the table but not in the file
 };
 
 // Fills the table from `file`. When `inserisciRecord` asks for it, enters (`nomeGiocatore`,
 // `puntiGiocatore`), clears the flag and rewrites the file; viewing alone never writes. A file
-// that exists but cannot be read is never overwritten, so its records are not lost.
+// that exists but cannot be read is never overwritten, so its records are not lost; the score
+// then stays out of the file, as it does when the file cannot be written.
 TabellaRecord riempiTabella(GameState& state, std::string_view nomeGiocatore,
                             const std::filesystem::path& file);
 

@@ -1,4 +1,5 @@
-// Plain message boxes under the program's title, and the fatal ones that end the program.
+// Plain message boxes under the program's title, centred on the window that raised them, and
+// the fatal ones that end the program.
 #pragma once
 
 #include "core/ports.h"

@@ -263,8 +263,12 @@ void DictionaryEditorWindow::ricreaDizionario() {
     m_exit->setEnabled(false);
     setValueText(m_status, tr("In corso la scrittura del dizionario ..."));
     m_context.yield();
-    for (QLabel* count : m_counts)
-        count->clear();
+    // A rebuild that fails changes nothing, the counts included.
+    std::array<QString, kLists> counts;
+    for (int i = 0; i < kLists; ++i) {
+        counts[i] = m_counts[i]->text();
+        m_counts[i]->clear();
+    }
     WordLists words;
     for (int i = 0; i < kLists; ++i) {
         m_progress->clear();
@@ -283,14 +287,24 @@ void DictionaryEditorWindow::ricreaDizionario() {
     const auto path = m_context.dictionary.dictionaryPath();
     const std::string notice =
         rebuiltNotice(path, "Il Griglione - Dizionario " + m_context.state.nomeDizionario);
-    if (rebuildDictionary(m_context.folder, m_context.state.numDizionario, notice, words)) {
+    std::error_code why;
+    if (rebuildDictionary(m_context.folder, m_context.state.numDizionario, notice, words, &why)) {
         setValueText(m_status, tr("Dizionario riscritto correttamente"));
     } else {
         // The old file is still whole and in place; the lists keep the changes for another try.
         setValueText(m_status, {});
+        for (int i = 0; i < kLists; ++i)
+            m_counts[i]->setText(counts[i]);
+        const auto file = std::filesystem::absolute(
+                              rebuiltFileName(m_context.folder, m_context.state.numDizionario))
+                              .lexically_normal();
         m_context.alerts.avviso(
-            tr("Errore non e' possibile scrivere sul disco nella posizione: %1")
-                .arg(QString::fromStdString(std::filesystem::absolute(m_context.folder).string()))
+            tr("Errore 0005: il dizionario non è stato ricreato, impossibile scrivere il file %1 "
+               "nella posizione: %2 (%3). Resta in uso il dizionario di prima e le modifiche "
+               "restano negli elenchi.")
+                .arg(QString::fromStdString(file.filename().string()),
+                     QString::fromStdString(file.parent_path().string()),
+                     QString::fromLocal8Bit(why.message()))
                 .toStdString());
     }
     m_context.dictionary.prendidiz();

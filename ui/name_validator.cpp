@@ -13,6 +13,9 @@ NameValidator::NameValidator(QLineEdit* box) : QValidator(box), m_current(box->t
 
 QValidator::State NameValidator::validate(QString& input, int&) const {
     if (!fitsAnsi(input.toStdString())) return Invalid;
+    // The records file splits its lines at the first comma: a name holding one would lose its
+    // scores. A name read with a comma may still be edited, but gains none.
+    if (input.count(',') > m_current.count(',')) return Invalid;
     // A change that does not make a long name longer is allowed.
     if (input.size() > kTypedNameLength && input.size() > m_current.size()) return Invalid;
     return Acceptable;

@@ -1,6 +1,6 @@
 // What the player may type in the name box: at most 12 characters, each one a Windows-1252
-// character, so the name shown is the name stored. A longer name read from the settings file
-// stays whole: typing may shorten it but never lengthen it.
+// character other than the comma, so the name shown is the name stored. A longer name read from
+// the settings file stays whole: typing may shorten it but never lengthen it.
 #pragma once
 
 #include <QValidator>

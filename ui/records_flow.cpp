@@ -9,6 +9,7 @@
 #include "ui/message_window.h"
 #include "ui/records_window.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QTimer>
 
@@ -52,10 +53,15 @@ void RecordsFlow::open(bool modal) {
         [this](const QString& notes, const QString& email) { submit(notes, email); },
         [this] { closing(); }, &m_main);
     m_window->fill(table);
-    if (modal)
-        m_window->exec();
-    else
-        m_window->show();
+    if (!modal) return m_window->show();
+    m_window->exec();
+    // The window itself never speaks; the player learns here that the table shown was not kept.
+    if (table.nonSalvato)
+        m_services.alerts.avviso(
+            QCoreApplication::translate("RecordsFlow",
+                                        "Errore 0004: impossibile scrivere il file dei record "
+                                        "zarMolo.HIS, il record non è stato salvato")
+                .toStdString());
 }
 
 void RecordsFlow::closing() {

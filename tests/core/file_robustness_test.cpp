@@ -48,10 +48,11 @@ TEST(FileRobustness, AFailedWriteLeavesTheOldFilesByteForByte) {
         const char* what;
         fs::perms filePerms;
         std::optional<std::size_t> limit;
+        std::errc reason;
     } cases[] = {
-        {"write-protected, even for a superuser", fs::perms::owner_read, std::nullopt},
-        {"disk full at once", fs::perms::owner_all, 0},
-        {"disk full part-way", fs::perms::owner_all, 7},
+        {"read-only, even to root", fs::perms::owner_read, {}, std::errc::permission_denied},
+        {"disk full at once", fs::perms::owner_all, 0, std::errc::no_space_on_device},
+        {"disk full part-way", fs::perms::owner_all, 7, std::errc::no_space_on_device},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
@@ -67,7 +68,9 @@ TEST(FileRobustness, AFailedWriteLeavesTheOldFilesByteForByte) {
         EXPECT_FALSE(writeFileAtomically(f / "ZARMOLO.INI", "Livello=100\r\n"));
         EXPECT_FALSE(appendToFile(f / "ZARMOLO.INI", "Tempo=60\r\n"));
         riempiTabella(state, "BRIVO", f / "zarMolo.HIS");
-        EXPECT_FALSE(rebuildDictionary(f, 1, "test", words));
+        std::error_code why;
+        EXPECT_FALSE(rebuildDictionary(f, 1, "test", words, &why));
+        EXPECT_EQ(why, std::make_error_code(c.reason));
         full.reset();
         for (const auto& [name, bytes] : old) {
             fs::permissions(f / name, fs::perms::owner_all);

@@ -1,15 +1,17 @@
 // The keyboard and the name box: no two controls of a window share a key, Alt+O opens its menu at
 // the first press, menus do not count as the name box losing the focus, the name keeps the file's
-// case rule and length, a settings file that cannot be written is reported and kept, and the
-// board's frame and the end-of-match window's name fit what they hold. Then the links of the "&?"
-// menu and of the information window, an installed game whose changes are kept in the player's own
-// folder, and the pictures and sounds of data/ that the game names.
+// case rule and length, a settings file that cannot be written is reported and kept, the board's
+// frame and the end-of-match window's name fit what they hold, and a message box stands over the
+// window that raised it. Then the links of the "&?" menu and of the information window, an
+// installed game whose changes are kept in the player's own folder, and the pictures and sounds of
+// data/ that the game names.
 #include "board/dealer.h"
 #include "core/addresses.h"
 #include "core/file_names.h"
 #include "platform/game_folder.h"
 #include "platform/outside_opener.h"
 #include "tests/support/window_harness.h"
+#include "ui/alert_boxes.h"
 #include "ui/end_of_match_window.h"
 
 #include <QDir>
@@ -89,7 +91,8 @@ private slots:
     }
 
     // A name read is kept whole, a typed one is held to twelve characters of the file's own
-    // set and upper-cased; it is saved when another control, not a menu, takes the focus.
+    // set but the comma, and upper-cased; it is saved when another control, not a menu, takes the
+    // focus.
     void theNameBoxKeepsTheFilesRulesAndSavesOnLeaving() {
         const std::string settings = "Giocatore1= giocatorelungo \r\n";
         openForKeys(settings);
@@ -106,7 +109,7 @@ private slots:
         type("abcdefghijklmn");
         QCOMPARE(name()->text(), QString("abcdefghijkl"));
         name()->clear();
-        type(QString::fromUtf8("aßµéΩ€"));
+        type(QString::fromUtf8("aßµ,éΩ€")); // a comma would split the name in the records
         QCOMPARE(name()->text(), QString::fromUtf8("aßµé€"));
         name()->setFocus();
         focusTheBoard();
@@ -164,6 +167,23 @@ private slots:
             child<QAbstractButton>(&endOfMatch, "Command1")->click();
         });
         endOfMatch.showResult(wide, 0, 0, {});
+    }
+
+    // A box stands over the window that raised it (an editor, not the board), its title whole.
+    void aMessageBoxCentresOnTheWindowThatRaisedIt() {
+        QWidget main;
+        QDialog editor(&main);
+        editor.setGeometry(500, 300, 300, 200);
+        QRect box;
+        QTimer::singleShot(0, &editor, [&] {
+            QTimer::singleShot(20, [&] { box = QApplication::activeModalWidget()->geometry(); });
+            QTimer::singleShot(30, [] { QApplication::activeModalWidget()->close(); });
+            AlertBoxes(&main).avviso("No");
+            editor.accept();
+        });
+        editor.exec();
+        QVERIFY((box.center() - editor.geometry().center()).manhattanLength() < 4);
+        QVERIFY(box.width() > editor.fontMetrics().horizontalAdvance(kProgramTitle) + 100);
     }
 
     // Each row: what lies beside the game as GRIGLIONE.htm (a file, a folder or nothing), the

@@ -1,7 +1,7 @@
 // The main window in a temporary folder: its start-up state, the announcement and F2, words played
 // with real clicks and keys, the confirmation, the options menus and the line width as drawn, two
 // short matches against the fastest opponent with the end-of-match window and the review between
-// them, and the records window entered on leaving and opened from the menu.
+// them, and the records window entered at time-up, on leaving and opened from the menu.
 #include "tests/support/window_harness.h"
 #include "ui/time_bar.h"
 
@@ -250,7 +250,7 @@ private slots:
                 timer1->stop();
                 nestedTicks = state().secondiTrascorsi - elapsed;
             } else {
-                history = texts(list);
+                history = texts(list) << QString::number(list->currentRow());
                 whenShown("Form10", [&](QWidget* review) {
                     for (const char* label : {"Label1", "Label4"})
                         reviewed << child<QLabel>(review, label)->text();
@@ -291,7 +291,7 @@ private slots:
         whenShown("Form2", onResult);
         QTRY_COMPARE_WITH_TIMEOUT(shown, 2, 10000);
         QCOMPARE(opponentRan, 0);
-        QCOMPARE(history, QStringList({first.last(), "  2) BRIVO    0   Computer    0"}));
+        QCOMPARE(history, QStringList({first.last(), "  2) BRIVO    0   Computer    0", "1"}));
         QCOMPARE(game->terminated, 1); // "&Annulla"
         QVERIFY(timer1->isActive());   // and "&OK", after the review, goes on all the same
         QCOMPARE(reviewed, QStringList({"Il tabellone nascondeva 2 parole per 360 punti in tutto.",
@@ -303,6 +303,41 @@ private slots:
             return reviewBoard.pixelColor(x, y) == QColor(0, 0, 128);
         };
         QVERIFY(lineAt(100, 100) && lineAt(164, 36) && !lineAt(292, 292));
+    }
+
+    // At time-up more than 1000 points enter the table, in a window that holds the match where it
+    // ended until it closes; a table that could not be kept (a folder in its place) is reported.
+    void aRecordAtTimeUpTakesMoreThan1000PointsAndHoldsTheMatch() {
+        for (const int points : {1000, 1001}) {
+            init();
+            open();
+            std::filesystem::create_directory(game->folder.path() / "zarMolo.HIS");
+            game->trigger("menuNuovo");
+            game->timer("Timer2")->setInterval(60'000);
+            state().puntiGiocatore = points;
+            state().tempoPartita = 1;
+            game->timer("Timer1")->setInterval(1);
+            QString seen;
+            whenShown("Form2", [&](QWidget* w) {
+                game->timer("Timer1")->setInterval(60'000);
+                QTimer::singleShot(20, [&] {
+                    QWidget* records = shownWindow("Form4");
+                    seen = QString("held at %1s, main window %2")
+                               .arg(state().secondiTrascorsi)
+                               .arg(game->window->isEnabled() ? "on" : "off");
+                    if (records) click(records, "Command1");
+                });
+                click(w, "Command1");
+            });
+            QTRY_COMPARE(seen, points > 1000 ? "held at 2s, main window off"
+                                             : "held at 0s, main window on");
+            QCOMPARE(
+                texts(game->alerts.shown),
+                QStringList("Errore 0004: impossibile scrivere il file dei record zarMolo.HIS, "
+                            "il record non è stato salvato")
+                    .mid(0, points - 1000));
+            cleanup();
+        }
     }
 
     void fineEntersTheScoreAndOffersTheSubmission() {
