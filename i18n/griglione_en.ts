@@ -35,6 +35,17 @@
     </message>
 </context>
 <context>
+    <name>DieCell</name>
+    <message>
+        <source>riga %1, colonna %2</source>
+        <translation>row %1, column %2</translation>
+    </message>
+    <message>
+        <source>vuoto</source>
+        <translation>blank</translation>
+    </message>
+</context>
+<context>
     <name>EndOfMatch</name>
     <message>
         <source>Ha vinto %1</source>
@@ -55,6 +66,81 @@
         <source>GRIGLIONE.htm</source>
         <extracomment>The help page in this language, a file beside the game&apos;s own files.</extracomment>
         <translation>GRIGLIONE_en.htm</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Parola composta</source>
+        <translation>Current word</translation>
+    </message>
+    <message>
+        <source>Invia la parola composta</source>
+        <translation>Submit the current word</translation>
+    </message>
+    <message>
+        <source>Cancella la parola composta</source>
+        <translation>Clear the current word</translation>
+    </message>
+    <message>
+        <source>Tempo della partita</source>
+        <translation>Match time</translation>
+    </message>
+    <message>
+        <source>Tempo trascorso</source>
+        <translation>Time gone by</translation>
+    </message>
+    <message>
+        <source>La parte della partita già trascorsa</source>
+        <translation>How much of the match has gone by</translation>
+    </message>
+    <message>
+        <source>Secondi trascorsi</source>
+        <translation>Seconds gone by</translation>
+    </message>
+    <message>
+        <source>Giocatore</source>
+        <translation>Player</translation>
+    </message>
+    <message>
+        <source>Il tuo nome, per la tabella dei record</source>
+        <translation>Your name, for the record table</translation>
+    </message>
+    <message>
+        <source>Il tuo avversario</source>
+        <translation>Your opponent</translation>
+    </message>
+    <message>
+        <source>Trovate da te</source>
+        <translation>Your words</translation>
+    </message>
+    <message>
+        <source>Le parole che hai trovato</source>
+        <translation>The words you found</translation>
+    </message>
+    <message>
+        <source>Tobia (CPU)</source>
+        <translation>Tobia (CPU)</translation>
+    </message>
+    <message>
+        <source>Le parole trovate dal computer</source>
+        <translation>The words your opponent found</translation>
+    </message>
+    <message>
+        <source>I tuoi punti</source>
+        <translation>Your score</translation>
+    </message>
+    <message>
+        <source>Punti di Tobia (CPU)</source>
+        <translation>Tobia (CPU)&apos;s score</translation>
+    </message>
+    <message>
+        <source>Il Griglione</source>
+        <translation>Il Griglione</translation>
+    </message>
+    <message>
+        <source>Apre il sito dell&apos;autore nel browser: %1</source>
+        <translation>Opens the author&apos;s web site in the browser: %1</translation>
     </message>
 </context>
 <context>
@@ -271,6 +357,13 @@ Click the &lt;OK&gt; button to play.</translation>
     </message>
 </context>
 <context>
+    <name>RecordsFlow</name>
+    <message>
+        <source>Errore 0004: impossibile scrivere il file dei record zarMolo.HIS, il record non è stato salvato</source>
+        <translation>Error 0004: cannot write the record file zarMolo.HIS; the record was not saved</translation>
+    </message>
+</context>
+<context>
     <name>RulesText</name>
     <message>
         <source>ERRORE 0001: File contenente le regole sulle parole non trovato: %1</source>
@@ -414,6 +507,10 @@ Click the &lt;OK&gt; button to play.</translation>
         <source>&amp;OK</source>
         <translation>&amp;OK</translation>
     </message>
+    <message>
+        <source>Parole ammesse</source>
+        <translation>Allowed words</translation>
+    </message>
 </context>
 <context>
     <name>griglione::DictionaryEditorWindow</name>
@@ -486,8 +583,20 @@ Click the &lt;OK&gt; button to play.</translation>
         <translation>Dictionary written successfully</translation>
     </message>
     <message>
-        <source>Errore non e&apos; possibile scrivere sul disco nella posizione: %1</source>
-        <translation>Error: cannot write to the disk at: %1</translation>
+        <source>Parole di %1 caratteri</source>
+        <translation>Words of %1 letters</translation>
+    </message>
+    <message>
+        <source>Stato del dizionario</source>
+        <translation>Dictionary status</translation>
+    </message>
+    <message>
+        <source>Nuova parola</source>
+        <translation>New word</translation>
+    </message>
+    <message>
+        <source>Errore 0005: il dizionario non è stato ricreato, impossibile scrivere il file %1 nella posizione: %2 (%3). Resta in uso il dizionario di prima e le modifiche restano negli elenchi.</source>
+        <translation>Error 0005: the dictionary was not rebuilt: cannot write the file %1 at: %2 (%3). The previous dictionary stays in use and your changes stay in the lists.</translation>
     </message>
 </context>
 <context>
@@ -531,6 +640,14 @@ Click the &lt;OK&gt; button to play.</translation>
     <message>
         <source>&amp;Parole del tabellone</source>
         <translation>&amp;Words on the Board</translation>
+    </message>
+    <message>
+        <source>Partite giocate</source>
+        <translation>Matches played</translation>
+    </message>
+    <message>
+        <source>Il Griglione</source>
+        <translation>Il Griglione</translation>
     </message>
 </context>
 <context>
@@ -586,6 +703,18 @@ Thanks to everyone who plays and reports missing words.</translation>
         <source>Fatto</source>
         <translation>Done</translation>
     </message>
+    <message>
+        <source>Informazioni su &apos;Il Griglione&apos;</source>
+        <translation>About &apos;Il Griglione&apos;</translation>
+    </message>
+    <message>
+        <source>Il Griglione</source>
+        <translation>Il Griglione</translation>
+    </message>
+    <message>
+        <source>Manda una mail all&apos;autore</source>
+        <translation>Send the author an e-mail</translation>
+    </message>
 </context>
 <context>
     <name>griglione::MainWindow</name>
@@ -640,6 +769,10 @@ Thanks to everyone who plays and reports missing words.</translation>
         <source>OK, fatto</source>
         <translation>OK, done</translation>
     </message>
+    <message>
+        <source>Messaggio</source>
+        <translation>Message</translation>
+    </message>
 </context>
 <context>
     <name>griglione::RecordsWindow</name>
@@ -686,6 +819,22 @@ Thanks to everyone who plays and reports missing words.</translation>
     <message>
         <source>The Best</source>
         <translation>The Best</translation>
+    </message>
+    <message>
+        <source>Primo in classifica</source>
+        <translation>First place</translation>
+    </message>
+    <message>
+        <source>Tabella records</source>
+        <translation>Record table</translation>
+    </message>
+    <message>
+        <source>Mia E-Mail</source>
+        <translation>My e-mail</translation>
+    </message>
+    <message>
+        <source>Note sul punteggio</source>
+        <translation>Notes on the score</translation>
     </message>
 </context>
 <context>
@@ -740,6 +889,18 @@ Thanks to everyone who plays and reports missing words.</translation>
         <source>Solo le parole che passano per il dado evidenziato: cliccalo di nuovo, o &quot;Tutte&quot;, per vederle tutte.</source>
         <translation>Only the words through the highlighted die: click it again, or &quot;All&quot;, to see them all.</translation>
     </message>
+    <message>
+        <source>Le tue parole</source>
+        <translation>Your words</translation>
+    </message>
+    <message>
+        <source>Parole della CPU</source>
+        <translation>Opponent&apos;s words</translation>
+    </message>
+    <message>
+        <source>Parole mancate</source>
+        <translation>Missed words</translation>
+    </message>
 </context>
 <context>
     <name>griglione::VocabularyEditorWindow</name>
@@ -786,6 +947,14 @@ Thanks to everyone who plays and reports missing words.</translation>
     <message>
         <source>Errore non e&apos; possibile scrivere sul disco nella posizione: %1 - Il programma verra&apos; terminato.</source>
         <translation>Error: cannot write to the disk at: %1 - The program will now end.</translation>
+    </message>
+    <message>
+        <source>Parole già inserite</source>
+        <translation>Words already added</translation>
+    </message>
+    <message>
+        <source>Digita nuova parola</source>
+        <translation>Type the new word</translation>
     </message>
 </context>
 </TS>

@@ -1,6 +1,6 @@
 #include "ui/control_names.h"
 
-#include "core/addresses.h"
+#include "records/record_address.h"
 
 #include <QCoreApplication>
 #include <QLabel>
@@ -38,7 +38,7 @@ constexpr Naming kNames[] = {
 // The labels named by their value.
 constexpr const char* kValueLabels[] = {"Label1", "Label4", "Label10", "Label11"};
 
-QString tr(const char* text) {
+QString mainWindowText(const char* text) {
     return QCoreApplication::translate("MainWindow", text);
 }
 
@@ -48,12 +48,13 @@ void nameMainWindowControls(QWidget* window) {
     for (const Naming& n : kNames) {
         auto* control = window->findChild<QWidget*>(n.object);
         if (!control) continue;
-        if (*n.name) control->setAccessibleName(tr(n.name));
-        if (*n.description) control->setAccessibleDescription(tr(n.description));
+        if (*n.name) control->setAccessibleName(mainWindowText(n.name));
+        if (*n.description) control->setAccessibleDescription(mainWindowText(n.description));
     }
     if (auto* link = window->findChild<QWidget*>("Label12"))
         link->setAccessibleDescription(
-            tr("Apre il sito dell'autore nel browser: %1").arg(QString::fromLatin1(kSitoWeb)));
+            QCoreApplication::translate("MainWindow", "Apre il sito dell'autore nel browser: %1")
+                .arg(QString::fromStdString(indirizzoServizio())));
     for (const char* name : kValueLabels)
         if (auto* label = window->findChild<QLabel*>(name)) setValueText(label, label->text());
 }
