@@ -116,9 +116,10 @@ int main(int argc, char* argv[]) {
                 bench::median(game), wall);
     std::printf("processor: bare window %.1f ms, game %.1f ms, ratio %.2f (target 1.2)\n",
                 bench::median(plainCpu), bench::median(gameCpu), ratio);
-    // As the other harnesses, only a gross regression fails, not a busy machine.
-    if (ratio > 2.0) {
-        std::printf("FAILED: the game starts more than twice as slowly as a bare window\n");
+    // As the other harnesses, only a gross regression fails, not a busy machine: two runs of this
+    // harness minutes apart on one idle machine have given 1.2 and 1.9, and 2.1 under load.
+    if (ratio > 3.0) {
+        std::printf("FAILED: the game starts more than three times as slowly as a bare window\n");
         return 1;
     }
     return 0;
