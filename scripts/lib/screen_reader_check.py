@@ -199,7 +199,9 @@ def main():
         if os.path.exists(launcher):
             spawn([launcher, "--launch-immediately"])
     time.sleep(1.5)
-    env = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb")
+    # The walk finds windows and keys by their Italian texts, so the interface is the Italian one.
+    env = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb",
+               LANGUAGE="it", LC_ALL="it_IT.UTF-8")
     spawn([os.path.join(WORK, "griglione")], cwd=WORK, env=env)
     app()
     main_window = show("Il Griglione - Dizionario")
