@@ -8,7 +8,7 @@
 namespace griglione {
 namespace {
 
-constexpr const char* kPagePolicy = "default-src 'none'; style-src 'unsafe-inline'; "
+constexpr const char* kPagePolicy = "default-src 'none'; style-src 'self' 'unsafe-inline'; "
                                     "img-src 'self'; base-uri 'none'; form-action 'none'; "
                                     "frame-ancestors 'none'";
 

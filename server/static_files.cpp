@@ -11,6 +11,7 @@ constexpr std::uintmax_t kMaxBytes = 1 << 20;
 
 const char* contentTypeOf(const std::string& extension) {
     if (extension == ".htm") return "text/html; charset=utf-8";
+    if (extension == ".css") return "text/css; charset=utf-8";
     if (extension == ".png") return "image/png";
     if (extension == ".gif") return "image/gif";
     return nullptr;

@@ -8,7 +8,8 @@ install(FILES ${records_dir}/griglione-records.service DESTINATION /lib/systemd/
     COMPONENT records)
 install(FILES ${records_dir}/griglione-records.conf DESTINATION /etc/griglione-records
     COMPONENT records)
-install(FILES ${PROJECT_SOURCE_DIR}/data/GRIGLIONE.htm ${PROJECT_SOURCE_DIR}/data/griglione.gif
+install(FILES ${PROJECT_SOURCE_DIR}/data/GRIGLIONE.htm ${PROJECT_SOURCE_DIR}/data/aiuto.css
+    ${PROJECT_SOURCE_DIR}/data/griglione.gif
     DESTINATION share/griglione-records COMPONENT records)
 file(GLOB help_pictures ${PROJECT_SOURCE_DIR}/data/aiuto-*.png)
 install(FILES ${help_pictures} DESTINATION share/griglione-records COMPONENT records)
