@@ -97,8 +97,8 @@ morphit() { # OUT PACKAGE:FILE...
         const out = new Set();
         const walk = (v) => typeof v === 'string' ? out.add(v)
             : Object.entries(v ?? {}).forEach(([k, w]) => { out.add(k); walk(w); });
-        for (const spec of process.argv.slice(1)) {
-            const [p, f] = spec.split(':');
+        for (const source of process.argv.slice(1)) {
+            const [p, f] = source.split(':');
             walk(JSON.parse(fs.readFileSync('$work/' + p + '/package/dist/' + f + '.json', 'utf8')));
         }
         process.stdout.write([...out].join('\\n') + '\\n');" "$@" | LC_ALL=C sort -u >"$out"
