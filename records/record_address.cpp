@@ -53,6 +53,12 @@ std::string indirizzoServizio() {
     return sito;
 }
 
+std::string testoServizio(std::string_view indirizzo) {
+    if (const auto scheme = indirizzo.find("://"); scheme != std::string_view::npos)
+        indirizzo.remove_prefix(scheme + 3);
+    return std::string(indirizzo.substr(0, indirizzo.find_first_of("/?#")));
+}
+
 std::string indirizzoRecord(RecordDaInviare record, const DataOra& adesso, Random& random,
                             const Clock& clock) {
     random.reseed(clock.secondsSinceMidnight());

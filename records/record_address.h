@@ -34,6 +34,9 @@ struct RecordDaInviare {
 // GRIGLIONE_RECORDS_URL when it is set and not empty, otherwise kSitoWeb.
 std::string indirizzoServizio();
 
+// How a link names that address: its host (and port), "griglione.example.org" for kSitoWeb.
+std::string testoServizio(std::string_view indirizzo);
+
 // The submission page followed by the query parts in the page's own order. Name, notes and
 // e-mail are percent-encoded byte by byte in Windows-1252 outside A-Z a-z 0-9 "-._~", so that
 // "#", "&", "=", "+", "%", blanks and accents reach the page whole; nothing may encode the

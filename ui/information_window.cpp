@@ -2,6 +2,7 @@
 
 #include "core/addresses.h"
 #include "platform/fonts.h"
+#include "records/record_address.h"
 #include "ui/colours.h"
 #include "ui/link_cursor.h"
 #include "ui/message_window.h"
@@ -101,7 +102,7 @@ InformationWindow::InformationWindow(const QPixmap& picture, MessageHost& messag
             "Grazie a chi gioca e segnala le parole che mancano."),
          {24, 132, 552, 150}, tahoma(9));
 
-    m_site = link("Label6", QString::fromUtf8(kSitoWebTesto),
+    m_site = link("Label6", QString::fromStdString(testoServizio(indirizzoServizio())),
                   tr("Clicca per visitare la \"Brivo home page\""), 290);
     m_site->setCursor(linkCursor());
     m_mail = link("Label3", QString::fromUtf8(kEmailAutore),

@@ -1,11 +1,11 @@
 #include "ui/main_window.h"
 
 #include "board/board_layout.h"
-#include "core/addresses.h"
 #include "core/atomic_file.h"
 #include "core/file_names.h"
 #include "core/levels.h"
 #include "platform/fonts.h"
+#include "records/record_address.h"
 #include "ui/alert_boxes.h"
 #include "ui/board_keys.h"
 #include "ui/colours.h"
@@ -209,8 +209,8 @@ void MainWindow::buildControls() {
     label(area, "Label7", tr("Punti"), at(6022, 4320, 555, 225), Qt::white, kRed);
     m_cpuScore = label(area, "Label11", "0", at(6750, 4320, 555, 225), Qt::white, kDarkGrey);
 
-    auto* link = label(area, "Label12", kSitoWebTesto, twipsRect(5295 + d, 4590, 1995, 255),
-                       QColor(255, 255, 128), kDarkGreen);
+    auto* link = label(area, "Label12", QString::fromStdString(testoServizio(indirizzoServizio())),
+                       twipsRect(5295 + d, 4590, 1995, 255), QColor(255, 255, 128), kDarkGreen);
     link->setToolTip(tr("Visita il sito dell'autore"));
     m_cpuAttempt = label(area, "Label8", "", at(5340, 4860, 1950, 225), Qt::white, kDarkGreen);
     m_cpuAttempt->hide();

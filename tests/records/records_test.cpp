@@ -24,6 +24,15 @@ TEST(RecordAddress, BuildsEveryPartInOrder) {
     EXPECT_EQ(random.reseeds, 1);
 }
 
+TEST(RecordAddress, LinksNameTheServiceByItsHost) {
+    for (const auto& [address, shown] : std::vector<std::pair<std::string, std::string>>{
+             {"https://griglione.example.org/", "griglione.example.org"},
+             {"http://127.0.0.1:8089/", "127.0.0.1:8089"},
+             {"https://records.example.net/griglione/?x#y", "records.example.net"},
+             {"localhost:8089", "localhost:8089"}})
+        EXPECT_EQ(testoServizio(address), shown) << address;
+}
+
 // The record file read back through its traps, the ordering of a new score, the exact bytes
 // written, the list lines and when an opening writes at all.
 
