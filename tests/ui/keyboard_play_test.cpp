@@ -104,6 +104,26 @@ private slots:
         QCOMPARE(text("Label1"), QString("A"));
     }
 
+    // The review's dice: the arrows move between them, Space keeps only the words through a die
+    // and Enter on the same die shows them all again.
+    void theReviewsDiceAnswerTheKeys() {
+        game->setBoard("CASA");
+        ReviewWindow review(game->window.get());
+        review.load(game->window->state(), game->folder.path());
+        review.show();
+        QApplication::setActiveWindow(&review);
+        QVERIFY(QTest::qWaitForWindowActive(&review));
+        auto* hint = review.findChild<QLabel*>("Label5");
+        const QString all = hint->text();
+        review.findChild<QWidget*>("Picture1_0")->setFocus();
+        QTest::keyClick(focused(), Qt::Key_Right);
+        QCOMPARE(focused(), review.findChild<QWidget*>("Picture1_1"));
+        QTest::keyClick(focused(), Qt::Key_Space);
+        QVERIFY(hint->text() != all);
+        QTest::keyClick(focused(), Qt::Key_Return);
+        QCOMPARE(hint->text(), all);
+    }
+
     void everyControlAPlayerUsesHasAName() {
         QWidget* main = game->window.get();
         QTest::keyClick(main, Qt::Key_F2);
