@@ -129,4 +129,10 @@ std::string upperAscii(std::string_view text) {
     return out;
 }
 
+std::string trimmed(std::string_view text, std::string_view blanks) {
+    const std::size_t first = text.find_first_not_of(blanks);
+    if (first == std::string_view::npos) return {};
+    return std::string(text.substr(first, text.find_last_not_of(blanks) - first + 1));
+}
+
 } // namespace griglione

@@ -27,4 +27,7 @@ std::string upperAnsi(std::string_view bytes);
 std::string lowerAscii(std::string_view text);
 std::string upperAscii(std::string_view text);
 
+// The text without the given characters at either end.
+std::string trimmed(std::string_view text, std::string_view blanks = " ");
+
 } // namespace griglione

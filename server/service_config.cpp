@@ -1,17 +1,16 @@
 // Reading the service's settings from its configuration file and its command line.
 #include "server/service_config.h"
 
+#include "core/ansi_text.h"
+
 #include <charconv>
 #include <fstream>
 
 namespace griglione {
 namespace {
 
-std::string trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(" \t\r");
-    if (first == std::string_view::npos) return {};
-    return std::string(text.substr(first, text.find_last_not_of(" \t\r") - first + 1));
-}
+// What a settings line may carry around its key and value.
+constexpr std::string_view kBlanks = " \t\r";
 
 bool integer(const std::string& text, int low, int high, int& out) {
     int value = 0;
@@ -56,13 +55,13 @@ std::string readConfigFile(const std::string& file, ServiceConfig& config) {
 std::string readConfig(std::istream& in, ServiceConfig& config) {
     std::string line;
     for (int number = 1; std::getline(in, line); ++number) {
-        const std::string content = trimmed(line);
+        const std::string content = trimmed(line, kBlanks);
         if (content.empty() || content.front() == '#') continue;
         const std::size_t equals = content.find('=');
         std::string error = equals == std::string::npos
                                 ? "manca \"=\""
-                                : set(config, trimmed(content.substr(0, equals)),
-                                      trimmed(content.substr(equals + 1)));
+                                : set(config, trimmed(content.substr(0, equals), kBlanks),
+                                      trimmed(content.substr(equals + 1), kBlanks));
         if (!error.empty()) return "riga " + std::to_string(number) + ": " + error;
     }
     return {};

@@ -34,7 +34,8 @@ int digits(std::string_view text, std::size_t at, std::size_t count) {
     return *number(text.substr(at, count));
 }
 
-std::string_view trimmed(std::string_view text) {
+// A view into the request itself: the checks copy nothing until a record is kept.
+std::string_view trimmedView(std::string_view text) {
     const std::size_t first = text.find_first_not_of(' ');
     if (first == std::string_view::npos) return {};
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
@@ -110,7 +111,7 @@ Submission readSubmission(std::string_view query) {
         if (!value.contains(key)) return refused("Manca la parte " + quoted(key) + ".");
 
     WorldRecord record;
-    const std::string_view nome = trimmed(value["Nome"]);
+    const std::string_view nome = trimmedView(value["Nome"]);
     if (nome.empty()) return refused("Il nome è vuoto.");
     if (nome.size() > kMaxNameBytes) return refused("Il nome supera i 30 caratteri.");
     if (!printable(nome)) return refused("Il nome contiene caratteri non ammessi.");
@@ -150,11 +151,11 @@ Submission readSubmission(std::string_view query) {
                        std::to_string(maxPunti(record.tempo)) + " punti).");
     record.punti = *score;
 
-    const std::string_view note = trimmed(value["Note"]);
+    const std::string_view note = trimmedView(value["Note"]);
     if (note.size() > kMaxNoteBytes) return refused("Le note superano i 200 caratteri.");
     if (!printable(note)) return refused("Le note contengono caratteri non ammessi.");
     record.note = fromAnsi(note);
-    const std::string_view email = trimmed(value["E_MAIL"]);
+    const std::string_view email = trimmedView(value["E_MAIL"]);
     if (email.size() > kMaxEmailBytes) return refused("L'indirizzo e-mail supera i 100 caratteri.");
     if (!printable(email)) return refused("L'indirizzo e-mail contiene caratteri non ammessi.");
     record.email = fromAnsi(email);
