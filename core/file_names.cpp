@@ -1,7 +1,9 @@
 #include "core/file_names.h"
 
-#include <algorithm>
 #include <cctype>
+#include <chrono>
+#include <map>
+#include <mutex>
 #include <optional>
 #include <system_error>
 #include <utility>
@@ -11,11 +13,21 @@ namespace {
 
 FileSearchOrder g_order;
 
-bool equalIgnoringCase(std::string_view a, std::string_view b) {
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
-               return std::tolower(static_cast<unsigned char>(x)) ==
-                      std::tolower(static_cast<unsigned char>(y));
-           });
+// A folder's names by their lower-case spelling, as last listed. A lookup that misses its exact
+// spelling would otherwise list the whole folder, and the opponent looks up a missing personal
+// vocabulary several times a tick in a data folder of hundreds of files.
+struct Listing {
+    std::filesystem::file_time_type changed;
+    std::map<std::string, std::filesystem::path, std::less<>> byLowerName;
+};
+
+std::mutex g_listingsMutex;
+std::map<std::filesystem::path, Listing> g_listings;
+
+std::string lowerCase(std::string_view name) {
+    std::string lower(name);
+    for (char& c : lower) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return lower;
 }
 
 std::optional<std::filesystem::path> findIn(const std::filesystem::path& folder,
@@ -23,12 +35,26 @@ std::optional<std::filesystem::path> findIn(const std::filesystem::path& folder,
     const std::filesystem::path exact = folder / std::string(name);
     std::error_code error;
     if (std::filesystem::exists(exact, error)) return exact;
-    for (std::filesystem::directory_iterator it(folder, error), end; !error && it != end;
-         it.increment(error)) {
-        const std::string candidate = it->path().filename().string();
-        if (equalIgnoringCase(candidate, name)) return it->path();
+    // Adding, removing or renaming an entry moves the folder's time. A listing is trusted only
+    // when that time is a few seconds old, so a file system that keeps coarse times cannot hide
+    // a change made in the same tick as the listing.
+    const auto changed = std::filesystem::last_write_time(folder, error);
+    if (error) return std::nullopt;
+    const bool settled =
+        std::filesystem::file_time_type::clock::now() - changed > std::chrono::seconds(3);
+    const std::lock_guard lock(g_listingsMutex);
+    auto cached = g_listings.find(folder);
+    if (cached == g_listings.end() || cached->second.changed != changed || !settled) {
+        Listing listing{changed, {}};
+        for (std::filesystem::directory_iterator it(folder, error), end; !error && it != end;
+             it.increment(error))
+            listing.byLowerName.emplace(lowerCase(it->path().filename().string()), it->path());
+        if (error) return std::nullopt;
+        cached = g_listings.insert_or_assign(folder, std::move(listing)).first;
     }
-    return std::nullopt;
+    const auto found = cached->second.byLowerName.find(lowerCase(name));
+    if (found == cached->second.byLowerName.end()) return std::nullopt;
+    return found->second;
 }
 
 } // namespace

@@ -14,6 +14,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <set>
 #include <string>
 #include <tuple>
@@ -153,6 +154,19 @@ TEST_F(FileSearchTest, ReadsFromThePlayerThenTheDataAndWritesOnlyIntoThePlayersF
     EXPECT_EQ(readWholeFile(player / "zarMolo.HIS"), "A, 1 \r\nB, 2 \r\n");
     EXPECT_EQ(readWholeFile(data / "SLESSICO.1"), "shipped");
     EXPECT_EQ(readWholeFile(data / "zarMolo.HIS"), "A, 1 \r\n");
+}
+
+// A folder listed while a name was missing is listed again once the folder changes, even when
+// its last listing is old enough to be trusted.
+TEST_F(FileSearchTest, FindsAFileMadeAfterTheFolderWasListed) {
+    setFileSearchOrder({});
+    for (const char* made : {"zarmpriv.1", "ZARMPRIV.1"}) {
+        fs::remove(player / "zarmpriv.1");
+        fs::last_write_time(player, fs::file_time_type::clock::now() - std::chrono::hours(1));
+        EXPECT_EQ(resolveFileName(player, "ZarmPriv.1"), player / "ZarmPriv.1");
+        put(player / made, "CANE\r\n");
+        EXPECT_EQ(resolveFileName(player, "ZarmPriv.1"), player / made);
+    }
 }
 
 // The interface language: the first of Italian and English in the system's order of preference,
