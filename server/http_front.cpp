@@ -5,6 +5,8 @@
 #include "server/records_service.h"
 #include "server/static_files.h"
 
+#include <sys/socket.h>
+
 namespace griglione {
 namespace {
 
@@ -39,6 +41,12 @@ HttpFront::HttpFront(RecordsService& service, const StaticFiles& files, int thre
     server.set_read_timeout(kReadTimeoutSeconds, 0);
     server.set_write_timeout(kReadTimeoutSeconds, 0);
     server.set_tcp_nodelay(true);
+    // The library listens with a backlog of five, too few for a burst of players; the socket is
+    // kept here so that bind() can listen on it again with a longer queue.
+    server.set_socket_options([this](socket_t socket) {
+        httplib::default_socket_options(socket);
+        m_socket = socket;
+    });
 
     server.set_pre_routing_handler([](const httplib::Request& req, httplib::Response& res) {
         if (req.target.size() > kMaxTargetBytes) {
@@ -76,6 +84,17 @@ HttpFront::HttpFront(RecordsService& service, const StaticFiles& files, int thre
                        res.status = 404;
                    }
                });
+    // The service only reads: a form sent to any address is refused as such, not as a missing
+    // page.
+    const auto readOnly = [](const httplib::Request&, httplib::Response& res) {
+        res.set_header("Allow", "GET, HEAD");
+        send(res, RecordsService::error(405, "Richiesta non valida",
+                                        "Il servizio risponde solo alla lettura delle pagine."));
+    };
+    server.Post(".*", readOnly);
+    server.Put(".*", readOnly);
+    server.Patch(".*", readOnly);
+    server.Delete(".*", readOnly);
     // Whatever else went wrong, the answer is a page and not a bare status.
     server.set_error_handler([](const httplib::Request&, httplib::Response& res) {
         if (!res.body.empty()) return;
@@ -91,8 +110,12 @@ HttpFront::HttpFront(RecordsService& service, const StaticFiles& files, int thre
 HttpFront::~HttpFront() = default;
 
 int HttpFront::bind(const std::string& address, int port) {
-    if (port == 0) return m_server->bind_to_any_port(address);
-    return m_server->bind_to_port(address, port) ? port : -1;
+    const int bound = port == 0                                  ? m_server->bind_to_any_port(address)
+                      : m_server->bind_to_port(address, port) ? port
+                                                              : -1;
+    // Listening again on a listening socket only changes the length of its queue.
+    if (bound > 0 && m_socket >= 0) ::listen(m_socket, kListenBacklog);
+    return bound;
 }
 
 bool HttpFront::run() {

@@ -21,6 +21,8 @@ inline constexpr int kKeepAliveSeconds = 3;
 inline constexpr int kKeepAliveRequests = 1000;
 inline constexpr int kReadTimeoutSeconds = 5;
 inline constexpr std::size_t kQueuedConnections = 256;
+// Connections the kernel holds before the service accepts them (capped by somaxconn).
+inline constexpr int kListenBacklog = 1024;
 
 class HttpFront {
 public:
@@ -35,6 +37,7 @@ public:
 
 private:
     std::unique_ptr<httplib::Server> m_server;
+    int m_socket = -1; // the listening socket, once bound
 };
 
 } // namespace griglione

@@ -84,6 +84,10 @@ TEST(ServiceRun, TheGamesAddressLandsWholeInTheWorldTable) {
                            "\"A#B \\u0026 C È\",\"punti\":1240,\"note\":\"nota_#1___100__più\","
                            "\"data\":\"05-03-2026\",\"ora\":\"07:09\"}]}\n");
     EXPECT_EQ(client.Get("/nessuna")->status, 404);
+    const auto posted = client.Post("/records/griglione.asp", "Nome=A", "text/plain");
+    ASSERT_TRUE(posted);
+    EXPECT_EQ(std::pair(posted->status, posted->get_header_value("Allow")),
+              std::pair(405, std::string("GET, HEAD")));
     EXPECT_EQ(service.stop(), 0);
 }
 
