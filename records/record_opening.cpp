@@ -43,16 +43,17 @@ TabellaRecord riempiTabella(GameState& state, std::string_view nomeGiocatore,
     const std::optional<RecordTable> read = readTable(file);
     RecordTable table = read.value_or(RecordTable{});
     bool saved = true;
+    const std::string name = RecordTable::keptName(nomeGiocatore);
     if (state.inserisciRecord) {
         state.inserisciRecord = false;
-        table.enter(std::string(nomeGiocatore), state.puntiGiocatore);
+        table.enter(name, state.puntiGiocatore);
         // A failed write leaves the old file whole.
         saved = read && writeFileAtomically(file, table.fileBytes());
     }
     TabellaRecord shown;
     shown.righe = table.listLines();
     shown.primo = table.slot(1).name;
-    const std::optional<int> place = table.placeOf(nomeGiocatore, state.puntiGiocatore);
+    const std::optional<int> place = table.placeOf(name, state.puntiGiocatore);
     shown.selezione = place.value_or(1);
     shown.invioPossibile = place && *place <= 2;
     // A score too low for the fifty places was never to be kept.

@@ -3,6 +3,7 @@
 #include "core/number_text.h"
 
 #include <algorithm>
+#include <string_view>
 #include <limits>
 
 namespace griglione {
@@ -61,6 +62,12 @@ RecordTable RecordTable::read(std::istream& in) {
         table.m_slots[filled++] = entryOf(line);
     }
     return table;
+}
+
+std::string RecordTable::keptName(std::string_view name) {
+    std::string kept(name);
+    std::erase(kept, ',');
+    return kept;
 }
 
 void RecordTable::enter(std::string name, std::int32_t score) {

@@ -36,6 +36,10 @@ public:
     // Slot 1 to 52.
     const RecordEntry& slot(int i) const { return m_slots[static_cast<std::size_t>(i - 1)]; }
 
+    // The name as a line of the file can hold it: the first comma ends a name, so a name read
+    // from a hand-edited settings file loses its commas here.
+    static std::string keptName(std::string_view name);
+
     // Puts the new score into slot 51 and sorts: an equal score already held stays above it.
     void enter(std::string name, std::int32_t score);
 

@@ -114,6 +114,12 @@ TEST(RecordOpening, EntersBelowAnEqualScoreAndNeverWritesOverAnUnreadableFile) {
     // Below the last of two equal entries.
     EXPECT_EQ(std::tuple(state.inserisciRecord, shown.selezione, shown.invioPossibile),
               std::tuple(false, 3, false));
+    // A comma from a hand-edited settings file would end the name in the file.
+    state.puntiGiocatore = 940;
+    state.inserisciRecord = true;
+    shown = riempiTabella(state, "ROSSI, M,", file);
+    EXPECT_EQ(std::pair(shown.selezione, folder.read("zarMolo.HIS").substr(0, 29)),
+              std::pair(2, std::string("A, 950 \r\nROSSI M, 940 \r\nBRIVO")));
 
     std::filesystem::remove(file);
     std::filesystem::create_directory(file);
