@@ -380,6 +380,41 @@ Click the &lt;OK&gt; button to play.</translation>
     </message>
 </context>
 <context>
+    <name>SystemReason</name>
+    <message>
+        <source>permesso negato</source>
+        <translation>permission denied</translation>
+    </message>
+    <message>
+        <source>disco pieno</source>
+        <translation>disk full</translation>
+    </message>
+    <message>
+        <source>spazio a disposizione esaurito</source>
+        <translation>disk quota used up</translation>
+    </message>
+    <message>
+        <source>disco protetto in scrittura</source>
+        <translation>write-protected disk</translation>
+    </message>
+    <message>
+        <source>al suo posto c&apos;è una cartella</source>
+        <translation>a folder is in its place</translation>
+    </message>
+    <message>
+        <source>cartella inesistente</source>
+        <translation>no such folder</translation>
+    </message>
+    <message>
+        <source>errore di lettura o scrittura del disco</source>
+        <translation>disk read or write error</translation>
+    </message>
+    <message>
+        <source>percorso troppo lungo</source>
+        <translation>path too long</translation>
+    </message>
+</context>
+<context>
     <name>VocabularyEditing</name>
     <message>
         <source>Sono stati utilizzati uno o più caratteri non contemplati dall&apos;alfabeto italiano oppure caratteri numerici!</source>

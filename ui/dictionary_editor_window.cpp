@@ -1,6 +1,7 @@
 #include "ui/dictionary_editor_window.h"
 
 #include "core/number_text.h"
+#include "core/system_reason.h"
 #include "dictionary/dictionary_rebuild.h"
 #include "dictionary/vocabulary_editing.h"
 #include "platform/fonts.h"
@@ -304,7 +305,7 @@ void DictionaryEditorWindow::ricreaDizionario() {
                "restano negli elenchi.")
                 .arg(QString::fromStdString(file.filename().string()),
                      QString::fromStdString(file.parent_path().string()),
-                     QString::fromLocal8Bit(why.message()))
+                     QString::fromStdString(systemReason(why)))
                 .toStdString());
     }
     m_context.dictionary.prendidiz();
