@@ -10,8 +10,8 @@
 #include "platform/sound_player.h"
 #include "platform/system_clock.h"
 #include "ui/alert_boxes.h"
-#include "ui/colours.h"
 #include "ui/main_window.h"
+#include "ui/readable_selection.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -42,7 +42,7 @@ int runGame(int argc, char* argv[], const fs::path& folder) {
     QApplication app(argc, argv);
     registerFonts();
     QApplication::setFont(tahoma(8.25));
-    QApplication::setPalette(withReadableSelection(QApplication::palette()));
+    ReadableSelection selection;
     SoundPlayer player;
     AlertBoxes alerts;
     OutsideOpener outside;

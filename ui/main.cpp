@@ -9,8 +9,8 @@
 #include "platform/sound_player.h"
 #include "platform/system_clock.h"
 #include "ui/alert_boxes.h"
-#include "ui/colours.h"
 #include "ui/main_window.h"
+#include "ui/readable_selection.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -24,7 +24,7 @@ int main(int argc, char* argv[]) {
     griglione::useInterfaceLanguage(griglione::systemInterfaceLanguage(), ".");
     griglione::registerFonts();
     QApplication::setFont(griglione::tahoma(8.25));
-    QApplication::setPalette(griglione::withReadableSelection(QApplication::palette()));
+    griglione::ReadableSelection selection;
     QApplication::setWindowIcon(griglione::PictureBook(".").icon("icona.svg"));
 
     griglione::SoundPlayer player;

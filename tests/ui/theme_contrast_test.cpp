@@ -8,6 +8,7 @@
 #include "ui/dictionary_editor_window.h"
 #include "ui/end_of_match_window.h"
 #include "ui/information_window.h"
+#include "ui/readable_selection.h"
 #include "ui/records_window.h"
 #include "ui/review_window.h"
 #include "ui/vocabulary_editor_window.h"
@@ -92,9 +93,11 @@ private slots:
     }
     void everyTextIsReadable() {
         QFETCH(bool, dark);
-        // As the program takes the desktop's palette at start-up.
-        QApplication::setPalette(withReadableSelection(
-            dark ? darkPalette() : QStyleFactory::create("Fusion")->standardPalette()));
+        // As the desktop's theme hands the running program its palette (Fusion's selection is
+        // white on a middle blue).
+        ReadableSelection selection;
+        QApplication::setPalette(dark ? darkPalette()
+                                      : QStyleFactory::create("Fusion")->standardPalette());
         QStringList found;
         GameHarness game;
         game.start();
