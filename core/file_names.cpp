@@ -26,7 +26,8 @@ std::map<std::filesystem::path, Listing> g_listings;
 
 std::string lowerCase(std::string_view name) {
     std::string lower(name);
-    for (char& c : lower) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    for (char& c : lower)
+        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
     return lower;
 }
 

@@ -3,8 +3,8 @@
 #include "core/number_text.h"
 
 #include <algorithm>
-#include <string_view>
 #include <limits>
+#include <string_view>
 
 namespace griglione {
 namespace {

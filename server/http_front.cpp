@@ -110,9 +110,11 @@ HttpFront::HttpFront(RecordsService& service, const StaticFiles& files, int thre
 HttpFront::~HttpFront() = default;
 
 int HttpFront::bind(const std::string& address, int port) {
-    const int bound = port == 0                                  ? m_server->bind_to_any_port(address)
-                      : m_server->bind_to_port(address, port) ? port
-                                                              : -1;
+    int bound = -1;
+    if (port == 0)
+        bound = m_server->bind_to_any_port(address);
+    else if (m_server->bind_to_port(address, port))
+        bound = port;
     // Listening again on a listening socket only changes the length of its queue.
     if (bound > 0 && m_socket >= 0) ::listen(m_socket, kListenBacklog);
     return bound;
