@@ -1,15 +1,31 @@
 #include "platform/sound_player.h"
 
 #include "core/file_names.h"
+#include "platform/sound_output.h"
 
 #include <QApplication>
-#include <QAudioDevice>
+#include <QDir>
 #include <QFileInfo>
-#include <QMediaDevices>
-#include <QSoundEffect>
-#include <QUrl>
+#include <QLibrary>
 
 namespace griglione {
+namespace {
+
+// The module beside the program (a portable game, the build) or in the installed game's folder.
+std::unique_ptr<SoundOutput> loadOutput() {
+    const QDir program(QCoreApplication::applicationDirPath());
+    for (const QString& folder :
+         {QStringLiteral("."), QStringLiteral(GRIGLIONE_MODULES_FROM_PROGRAM)}) {
+        // Never unloaded: the output it makes lives until the program ends.
+        QLibrary module(QDir::cleanPath(program.absoluteFilePath(folder + '/' + kSoundModuleFile)));
+        if (!module.load()) continue;
+        if (auto make = reinterpret_cast<MakeSoundOutput>(module.resolve(kMakeSoundOutput)))
+            return std::unique_ptr<SoundOutput>(make());
+    }
+    return nullptr;
+}
+
+} // namespace
 
 SoundPlayer::SoundPlayer(QObject* parent) : QObject(parent) {}
 
@@ -18,22 +34,13 @@ SoundPlayer::~SoundPlayer() = default;
 void SoundPlayer::suona(std::string_view nomeFile) {
     const QFileInfo file(QString::fromStdString(resolveFileName(nomeFile).string()));
     if (!file.isFile()) return;
-    // Asked once, at the first sound: without an output device the effect would complain on
-    // the console at every sound, and the game stays silent instead.
-    if (!m_deviceChecked) {
-        m_deviceChecked = true;
-        // The audio back end reports a missing sound server on the console while it looks.
-        const QtMessageHandler previous =
-            qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-        m_hasDevice = !QMediaDevices::audioOutputs().isEmpty();
-        qInstallMessageHandler(previous);
+    // Loaded once, at the first sound, so a game that never makes a sound never opens the audio
+    // device.
+    if (!m_outputTried) {
+        m_outputTried = true;
+        m_output = loadOutput();
     }
-    if (!m_hasDevice) return;
-    // Created on first use, so a game that never makes a sound never opens the audio device.
-    if (!m_effect) m_effect = new QSoundEffect(this);
-    m_effect->stop();
-    m_effect->setSource(QUrl::fromLocalFile(file.absoluteFilePath()));
-    m_effect->play();
+    if (m_output) m_output->play(file.absoluteFilePath());
 }
 
 void SoundPlayer::beep() {

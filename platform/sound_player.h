@@ -1,14 +1,16 @@
 // Sound effects: one player, so a new effect cuts off the one still playing; silent when the
-// file is missing or there is no audio device.
+// file is missing, when there is no audio device, or when the sound module cannot be loaded.
 #pragma once
 
 #include "core/ports.h"
 
 #include <QObject>
 
-class QSoundEffect;
+#include <memory>
 
 namespace griglione {
+
+class SoundOutput;
 
 class SoundPlayer final : public QObject, public Sounds {
     Q_OBJECT
@@ -20,9 +22,8 @@ public:
     void beep() override;
 
 private:
-    QSoundEffect* m_effect = nullptr;
-    bool m_deviceChecked = false;
-    bool m_hasDevice = false;
+    bool m_outputTried = false;
+    std::unique_ptr<SoundOutput> m_output;
 };
 
 } // namespace griglione
