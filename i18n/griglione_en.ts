@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="it">
 <context>
+    <name>Accessibility</name>
+    <message>
+        <source>Scorrimento verticale</source>
+        <translation>Vertical scrolling</translation>
+    </message>
+    <message>
+        <source>Scorrimento orizzontale</source>
+        <translation>Horizontal scrolling</translation>
+    </message>
+</context>
+<context>
     <name>AlertBoxes</name>
     <message>
         <source>Annulla</source>

@@ -5,6 +5,8 @@
 
 #include <QAccessibleWidget>
 #include <QCoreApplication>
+#include <QEvent>
+#include <QScrollBar>
 #include <QWidget>
 
 namespace griglione {
@@ -69,11 +71,30 @@ QAccessibleInterface* factory(const QString& className, QObject* object) {
     return nullptr;
 }
 
+// Names the lists' scroll bars by their direction as each is made ready to show: Qt leaves
+// them nameless, and a reader would announce a bare "scroll bar".
+class ScrollBarNames final : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Polish)
+            if (auto* bar = qobject_cast<QScrollBar*>(watched);
+                bar && bar->accessibleName().isEmpty())
+                bar->setAccessibleName(
+                    bar->orientation() == Qt::Vertical
+                        ? QCoreApplication::translate("Accessibility", "Scorrimento verticale")
+                        : QCoreApplication::translate("Accessibility", "Scorrimento orizzontale"));
+        return false;
+    }
+};
+
 } // namespace
 
 void installAccessibility() {
     static const bool installed = [] {
         QAccessible::installFactory(factory);
+        qApp->installEventFilter(new ScrollBarNames(qApp));
         return true;
     }();
     (void)installed;

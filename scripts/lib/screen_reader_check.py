@@ -20,7 +20,7 @@ READ = {
     pyatspi.ROLE_PROGRESS_BAR, pyatspi.ROLE_IMAGE, pyatspi.ROLE_LINK, pyatspi.ROLE_MENU,
     pyatspi.ROLE_MENU_ITEM, pyatspi.ROLE_CHECK_MENU_ITEM, pyatspi.ROLE_RADIO_MENU_ITEM,
     pyatspi.ROLE_DIALOG, pyatspi.ROLE_FRAME, pyatspi.ROLE_SPIN_BUTTON, pyatspi.ROLE_PAGE_TAB,
-    pyatspi.ROLE_NOTIFICATION, pyatspi.ROLE_STATUS_BAR,
+    pyatspi.ROLE_NOTIFICATION, pyatspi.ROLE_STATUS_BAR, pyatspi.ROLE_SCROLL_BAR,
 }
 ITEMS_SHOWN = 4  # of a long list, only the first items are printed
 problems = []
