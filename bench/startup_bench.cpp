@@ -11,7 +11,7 @@
 #include "platform/system_clock.h"
 #include "ui/alert_boxes.h"
 #include "ui/main_window.h"
-#include "ui/readable_selection.h"
+#include "ui/readable_colours.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -42,7 +42,7 @@ int runGame(int argc, char* argv[], const fs::path& folder) {
     QApplication app(argc, argv);
     registerFonts();
     QApplication::setFont(tahoma(8.25));
-    ReadableSelection selection;
+    ReadableColours colours;
     SoundPlayer player;
     AlertBoxes alerts;
     OutsideOpener outside;

@@ -44,10 +44,20 @@ inline QColor readableColour(const QColor& foreground, const QColor& background)
     return {c.r, c.g, c.b};
 }
 
+// The colour a label was given, kept so that a theme change can work out its readable variant
+// again (see ReadableColours).
+inline constexpr const char* kWantedTextColour = "griglioneWantedTextColour";
+
 inline void setTextColour(QWidget* widget, const QColor& foreground) {
+    widget->setProperty(kWantedTextColour, foreground);
     QPalette palette = widget->palette();
     palette.setColor(QPalette::WindowText, readableColour(foreground, backgroundBehind(widget)));
     widget->setPalette(palette);
+}
+
+inline void refreshTextColour(QWidget* widget) {
+    const QVariant wanted = widget->property(kWantedTextColour);
+    if (wanted.isValid()) setTextColour(widget, wanted.value<QColor>());
 }
 
 // The theme's selection colours, with the ground of the selection moved just far enough from

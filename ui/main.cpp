@@ -10,7 +10,7 @@
 #include "platform/system_clock.h"
 #include "ui/alert_boxes.h"
 #include "ui/main_window.h"
-#include "ui/readable_selection.h"
+#include "ui/readable_colours.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -24,7 +24,7 @@ int main(int argc, char* argv[]) {
     griglione::useInterfaceLanguage(griglione::systemInterfaceLanguage(), ".");
     griglione::registerFonts();
     QApplication::setFont(griglione::tahoma(8.25));
-    griglione::ReadableSelection selection;
+    griglione::ReadableColours colours;
     QApplication::setWindowIcon(griglione::PictureBook(".").icon("icona.svg"));
 
     griglione::SoundPlayer player;

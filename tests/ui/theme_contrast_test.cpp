@@ -8,12 +8,13 @@
 #include "ui/dictionary_editor_window.h"
 #include "ui/end_of_match_window.h"
 #include "ui/information_window.h"
-#include "ui/readable_selection.h"
+#include "ui/readable_colours.h"
 #include "ui/records_window.h"
 #include "ui/review_window.h"
 #include "ui/vocabulary_editor_window.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -95,7 +96,7 @@ private slots:
         QFETCH(bool, dark);
         // As the desktop's theme hands the running program its palette (Fusion's selection is
         // white on a middle blue).
-        ReadableSelection selection;
+        ReadableColours colours;
         QApplication::setPalette(dark ? darkPalette()
                                       : QStyleFactory::create("Fusion")->standardPalette());
         QStringList found;
@@ -143,6 +144,21 @@ private slots:
         VocabularyEditorWindow vocabulary(editor.context(WordLists{{{}, {"CASA"}}}), parent);
         found << unreadable(&vocabulary);
         QVERIFY2(found.isEmpty(), qPrintable(found.join('\n')));
+    }
+
+    // A dark theme chosen while the game runs: the program's dark blue on the theme's ground is
+    // worked out again for the new ground.
+    void fixedTextColoursFollowAThemeChange() {
+        ReadableColours colours;
+        QApplication::setPalette(QStyleFactory::create("Fusion")->standardPalette());
+        QWidget window;
+        auto* label = new QLabel("STATISTICHE", &window);
+        setTextColour(label, kBlue);
+        window.show();
+        QApplication::setPalette(darkPalette());
+        QTRY_COMPARE(window.palette().color(QPalette::Window),
+                     darkPalette().color(QPalette::Window));
+        QTRY_VERIFY2(unreadable(&window).isEmpty(), qPrintable(unreadable(&window).join('\n')));
     }
 };
 
