@@ -1,6 +1,7 @@
 #include "core/file_names.h"
 
-#include <cctype>
+#include "core/ansi_text.h"
+
 #include <chrono>
 #include <map>
 #include <mutex>
@@ -24,13 +25,6 @@ struct Listing {
 std::mutex g_listingsMutex;
 std::map<std::filesystem::path, Listing> g_listings;
 
-std::string lowerCase(std::string_view name) {
-    std::string lower(name);
-    for (char& c : lower)
-        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return lower;
-}
-
 std::optional<std::filesystem::path> findIn(const std::filesystem::path& folder,
                                             std::string_view name) {
     const std::filesystem::path exact = folder / std::string(name);
@@ -49,11 +43,11 @@ std::optional<std::filesystem::path> findIn(const std::filesystem::path& folder,
         Listing listing{changed, {}};
         for (std::filesystem::directory_iterator it(folder, error), end; !error && it != end;
              it.increment(error))
-            listing.byLowerName.emplace(lowerCase(it->path().filename().string()), it->path());
+            listing.byLowerName.emplace(lowerAscii(it->path().filename().string()), it->path());
         if (error) return std::nullopt;
         cached = g_listings.insert_or_assign(folder, std::move(listing)).first;
     }
-    const auto found = cached->second.byLowerName.find(lowerCase(name));
+    const auto found = cached->second.byLowerName.find(lowerAscii(name));
     if (found == cached->second.byLowerName.end()) return std::nullopt;
     return found->second;
 }
