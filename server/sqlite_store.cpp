@@ -1,6 +1,8 @@
 // The world table in SQLite: schema, group commit on one writer thread, pooled readers.
 #include "server/sqlite_store.h"
 
+#include "server/service_log.h"
+
 #include <sqlite3.h>
 
 #include <future>
@@ -23,8 +25,10 @@ PRAGMA user_version = 1;
 
 // Up to this many queued submissions share one transaction.
 constexpr std::size_t kBatch = 256;
-// WAL pages after which the checkpoint thread is woken (SQLite's own default threshold).
+// WAL pages after which the checkpoint thread is woken (SQLite's own default threshold), and
+// after which it waits for readers rather than leave the WAL growing.
 constexpr int kCheckpointPages = 1000;
+constexpr int kForcedCheckpointPages = 4000;
 
 constexpr const char* kRowColumns = "id, nome, punti, note, data, ora";
 
@@ -134,6 +138,8 @@ SqliteStore::SqliteStore(const std::filesystem::path& file, int readers) {
         // FULL: a commit is on the disk before the page says "registrato".
         exec(m_writer, "PRAGMA synchronous = FULL");
         sqlite3_wal_autocheckpoint(m_writer, 0);
+        // A WAL that starts over after a checkpoint is cut back to this size.
+        exec(m_writer, "PRAGMA journal_size_limit = 8388608");
         exec(m_writer, "BEGIN IMMEDIATE");
         sqlite3_stmt* version = prepare(m_writer, "PRAGMA user_version");
         sqlite3_step(version);
@@ -202,9 +208,23 @@ void SqliteStore::checkpointLoop() {
             if (m_checkpointStopping) return;
             m_checkpointDue = false;
         }
+        // A connection that has never read the database has not opened the WAL, and its
+        // checkpoint would copy nothing: it reads first.
+        sqlite3_exec(m_checkpointer, "SELECT 1 FROM sqlite_schema LIMIT 1", nullptr, nullptr,
+                     nullptr);
         // PASSIVE: copies what it can without waiting for, or holding up, the writer.
-        sqlite3_wal_checkpoint_v2(m_checkpointer, nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr,
-                                  nullptr);
+        int frames = 0, copied = 0;
+        int status = sqlite3_wal_checkpoint_v2(m_checkpointer, nullptr, SQLITE_CHECKPOINT_PASSIVE,
+                                               &frames, &copied);
+        // Readers that never let go would keep the WAL growing: past a bound, wait for them.
+        if (status == SQLITE_OK && copied < frames && frames >= kForcedCheckpointPages)
+            status = sqlite3_wal_checkpoint_v2(m_checkpointer, nullptr, SQLITE_CHECKPOINT_TRUNCATE,
+                                               &frames, &copied);
+        if (status != SQLITE_OK)
+            serviceLog().failure("checkpoint", std::string("il WAL non è stato copiato nel "
+                                                           "database (") +
+                                                   std::to_string(frames) +
+                                                   " pagine): " + sqlite3_errmsg(m_checkpointer));
         // At most one a second: while readers keep the WAL from starting over, every commit
         // would otherwise ask for another.
         std::unique_lock lock(m_checkpointMutex);
@@ -279,7 +299,11 @@ void SqliteStore::writeLoop() {
             ok = results.back().has_value();
         }
         ok = ok && sqlite3_exec(m_writer, "COMMIT", nullptr, nullptr, nullptr) == SQLITE_OK;
-        if (!ok) sqlite3_exec(m_writer, "ROLLBACK", nullptr, nullptr, nullptr);
+        if (!ok) {
+            serviceLog().failure("database",
+                                 std::string("record non salvati: ") + sqlite3_errmsg(m_writer));
+            sqlite3_exec(m_writer, "ROLLBACK", nullptr, nullptr, nullptr);
+        }
         // Nobody hears "stored" before the commit is done, and after a failure nobody does.
         for (std::size_t i = 0; i < batch.size(); ++i)
             batch[i]->done.set_value(ok ? results[i] : std::nullopt);
