@@ -25,10 +25,26 @@ PRAGMA user_version = 1;
 
 // Up to this many queued submissions share one transaction.
 constexpr std::size_t kBatch = 256;
-// WAL pages after which the checkpoint thread is woken (SQLite's own default threshold), and
+// WAL pages after which a commit copies the WAL back (SQLite's own default threshold), and
 // after which it waits for readers rather than leave the WAL growing.
 constexpr int kCheckpointPages = 1000;
 constexpr int kForcedCheckpointPages = 4000;
+
+// PASSIVE copies what no reader still needs; when readers have kept the WAL from starting over
+// for long, TRUNCATE waits for them (up to the busy timeout). What cannot proceed is logged.
+void checkpoint(sqlite3* db, int pages) {
+    int frames = 0, copied = 0;
+    int status =
+        sqlite3_wal_checkpoint_v2(db, nullptr, SQLITE_CHECKPOINT_PASSIVE, &frames, &copied);
+    if (status == SQLITE_OK && copied < frames && pages >= kForcedCheckpointPages)
+        status =
+            sqlite3_wal_checkpoint_v2(db, nullptr, SQLITE_CHECKPOINT_TRUNCATE, &frames, &copied);
+    if (status != SQLITE_OK || (copied < frames && pages >= kForcedCheckpointPages))
+        serviceLog().failure("checkpoint", "il WAL (" + std::to_string(pages) +
+                                               " pagine) non è stato copiato tutto nel "
+                                               "database: " +
+                                               sqlite3_errmsg(db));
+}
 
 constexpr const char* kRowColumns = "id, nome, punti, note, data, ora";
 
@@ -181,55 +197,16 @@ SqliteStore::SqliteStore(const std::filesystem::path& file, int readers) {
         throw;
     }
     m_idle = m_readers;
-    m_checkpointer = open(file, SQLITE_OPEN_READWRITE);
+    // Every commit that leaves the WAL long copies it back at once, on the writer's own
+    // connection: then the next commit starts the WAL over instead of growing it.
     sqlite3_wal_hook(
         m_writer,
-        [](void* store, sqlite3*, const char*, int pages) {
-            if (pages >= kCheckpointPages) {
-                auto* self = static_cast<SqliteStore*>(store);
-                {
-                    std::lock_guard lock(self->m_checkpointMutex);
-                    self->m_checkpointDue = true;
-                }
-                self->m_walGrown.notify_one();
-            }
+        [](void*, sqlite3* db, const char*, int pages) {
+            if (pages >= kCheckpointPages) checkpoint(db, pages);
             return SQLITE_OK;
         },
-        this);
-    m_checkpointThread = std::thread([this] { checkpointLoop(); });
+        nullptr);
     m_thread = std::thread([this] { writeLoop(); });
-}
-
-void SqliteStore::checkpointLoop() {
-    for (;;) {
-        {
-            std::unique_lock lock(m_checkpointMutex);
-            m_walGrown.wait(lock, [this] { return m_checkpointDue || m_checkpointStopping; });
-            if (m_checkpointStopping) return;
-            m_checkpointDue = false;
-        }
-        // A connection that has never read the database has not opened the WAL, and its
-        // checkpoint would copy nothing: it reads first.
-        sqlite3_exec(m_checkpointer, "SELECT 1 FROM sqlite_schema LIMIT 1", nullptr, nullptr,
-                     nullptr);
-        // PASSIVE: copies what it can without waiting for, or holding up, the writer.
-        int frames = 0, copied = 0;
-        int status = sqlite3_wal_checkpoint_v2(m_checkpointer, nullptr, SQLITE_CHECKPOINT_PASSIVE,
-                                               &frames, &copied);
-        // Readers that never let go would keep the WAL growing: past a bound, wait for them.
-        if (status == SQLITE_OK && copied < frames && frames >= kForcedCheckpointPages)
-            status = sqlite3_wal_checkpoint_v2(m_checkpointer, nullptr, SQLITE_CHECKPOINT_TRUNCATE,
-                                               &frames, &copied);
-        if (status != SQLITE_OK)
-            serviceLog().failure("checkpoint", std::string("il WAL non è stato copiato nel "
-                                                           "database (") +
-                                                   std::to_string(frames) +
-                                                   " pagine): " + sqlite3_errmsg(m_checkpointer));
-        // At most one a second: while readers keep the WAL from starting over, every commit
-        // would otherwise ask for another.
-        std::unique_lock lock(m_checkpointMutex);
-        m_walGrown.wait_for(lock, std::chrono::seconds(1), [this] { return m_checkpointStopping; });
-    }
 }
 
 SqliteStore::~SqliteStore() {
@@ -240,14 +217,6 @@ SqliteStore::~SqliteStore() {
         }
         m_queued.notify_one();
         m_thread.join();
-    }
-    if (m_checkpointThread.joinable()) {
-        {
-            std::lock_guard lock(m_checkpointMutex);
-            m_checkpointStopping = true;
-        }
-        m_walGrown.notify_one();
-        m_checkpointThread.join();
     }
     release();
 }
@@ -262,8 +231,6 @@ void SqliteStore::release() {
     m_readers.clear();
     sqlite3_finalize(m_insert);
     sqlite3_finalize(m_existing);
-    sqlite3_close(m_checkpointer);
-    m_checkpointer = nullptr;
     // The last connection to close checkpoints the WAL into the database and removes it.
     sqlite3_close(m_writer);
     m_writer = nullptr;

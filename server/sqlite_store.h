@@ -1,6 +1,6 @@
 // The world table in one SQLite file (WAL). Submissions are written by one thread that commits
 // whatever has queued up in one transaction, so each fsync serves many records; reads use a small
-// pool of their own connections; checkpoints run on a thread of their own.
+// pool of their own connections; the writer copies the WAL back whenever it has grown long.
 #pragma once
 
 #include "server/record_store.h"
@@ -38,7 +38,6 @@ private:
 
     void release();
     void writeLoop();
-    void checkpointLoop();
     std::optional<Stored> insert(const WorldRecord& record);
 
     sqlite3* m_writer = nullptr;
@@ -49,15 +48,6 @@ private:
     std::deque<Pending*> m_queue;
     bool m_stopping = false;
     std::thread m_thread;
-
-    // The WAL is copied back into the database by a thread of its own, so that no submission
-    // waits for a checkpoint.
-    sqlite3* m_checkpointer = nullptr;
-    std::mutex m_checkpointMutex;
-    std::condition_variable m_walGrown;
-    bool m_checkpointDue = false;
-    bool m_checkpointStopping = false;
-    std::thread m_checkpointThread;
 
     std::mutex m_readMutex;
     std::condition_variable m_readerFree;

@@ -102,8 +102,9 @@ Submission refused(std::string errore) {
 
 std::int32_t plausiblePunti(int lingua, int tempo) {
     // Per language, for 60, 90, 120 and 300 seconds.
-    constexpr std::int32_t kBound[3][4] = {
-        {98'000, 141'000, 183'000, 402'000}, {78'000, 108'000, 133'000, 216'000}, {0, 0, 0, 0}};
+    constexpr std::int32_t kBound[3][4] = {{98'000, 141'000, 183'000, 402'000},
+                                           {78'000, 108'000, 133'000, 216'000},
+                                           {98'000, 137'000, 173'000, 364'000}};
     if (!validLanguage(lingua) || !validLength(tempo)) return 0;
     const int column = tempo == 60 ? 0 : tempo == 90 ? 1 : tempo == 120 ? 2 : 3;
     return std::min(kBound[lingua - 1][column], maxPunti(tempo));
