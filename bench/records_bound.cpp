@@ -81,9 +81,10 @@ int main(int argc, char** argv) {
             for (int t = 0; t < 4; ++t)
                 best[t] = std::max(best[t], enterable(lengths, kLengths[t] * kPressesPerSecond));
         }
-        std::printf("%d  %zu  %ld  %.0f  %.0f  %.0f  %.0f  (%.0f s)\n", lingua, mostWords, richest,
-                    best[0], best[1], best[2], best[3],
-                    std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+        std::printf(
+            "%d  %zu  %ld  %.0f  %.0f  %.0f  %.0f  (%.0f s)\n", lingua, mostWords, richest, best[0],
+            best[1], best[2], best[3],
+            std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
         std::fflush(stdout);
     }
     return 0;
