@@ -189,6 +189,23 @@ std::string viewTarget(int c, long i) {
            "&Tempo=" + std::to_string(tempo[i % 4]) + (i % 2 ? "&format=json" : "");
 }
 
+// The disk's fsync time, which bounds every durable commit: printed beside the figures.
+void reportFsync(const std::filesystem::path& folder) {
+    const int fd = ::open((folder / "fsync-probe").c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    std::vector<double> ms;
+    const std::string page(4096, 'x');
+    for (int i = 0; fd >= 0 && i < 100 && ::write(fd, page.data(), page.size()) > 0; ++i) {
+        const auto start = Clock::now();
+        ::fsync(fd);
+        ms.push_back(msSince(start));
+    }
+    if (fd >= 0) ::close(fd);
+    std::sort(ms.begin(), ms.end());
+    if (!ms.empty())
+        std::printf("fsync of 4 KB on this disk: p50 %.2f ms  p99 %.2f ms\n", ms[ms.size() / 2],
+                    ms[ms.size() * 99 / 100]);
+}
+
 // Holds `idle` silent connections and `slow` ones that send a header byte a second, from
 // addresses of their own; reopens any the service closes, and counts those.
 struct Attack {
@@ -251,6 +268,7 @@ int main(int argc, char** argv) {
         std::filesystem::temp_directory_path() / ("griglione-load-" + std::to_string(::getpid()));
     std::filesystem::create_directories(folder);
     const std::string database = (folder / "records.sqlite").string();
+    reportFsync(folder);
 
     // The real program, limits as shipped but for the records a minute; its log is read away.
     int out[2];

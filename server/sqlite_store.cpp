@@ -25,8 +25,10 @@ PRAGMA user_version = 1;
 
 // Up to this many queued submissions share one transaction.
 constexpr std::size_t kBatch = 256;
-// WAL pages after which a commit copies the WAL back (SQLite's own default threshold), and
-// after which it waits for readers rather than leave the WAL growing.
+// WAL pages after which the checkpoint thread copies what it can beside the writer; after which
+// the writer finishes the copy itself (SQLite's own default threshold), so that its next commit
+// starts the WAL over; and after which it waits for readers rather than leave the WAL growing.
+constexpr int kBackgroundPages = 250;
 constexpr int kCheckpointPages = 1000;
 constexpr int kForcedCheckpointPages = 4000;
 
@@ -197,16 +199,51 @@ SqliteStore::SqliteStore(const std::filesystem::path& file, int readers) {
         throw;
     }
     m_idle = m_readers;
-    // Every commit that leaves the WAL long copies it back at once, on the writer's own
-    // connection: then the next commit starts the WAL over instead of growing it.
+    m_checkpointer = open(file, SQLITE_OPEN_READWRITE);
+    // A checkpoint beside a writer that keeps committing never catches up with it, and the WAL
+    // only starts over when one has: the checkpoint thread copies the bulk without holding up
+    // the writer, and the writer copies the rest, little by then, between two commits.
     sqlite3_wal_hook(
         m_writer,
-        [](void*, sqlite3* db, const char*, int pages) {
-            if (pages >= kCheckpointPages) checkpoint(db, pages);
+        [](void* store, sqlite3* db, const char*, int pages) {
+            if (pages >= kCheckpointPages) {
+                checkpoint(db, pages);
+            } else if (pages >= kBackgroundPages) {
+                auto* self = static_cast<SqliteStore*>(store);
+                {
+                    std::lock_guard lock(self->m_checkpointMutex);
+                    self->m_checkpointDue = true;
+                }
+                self->m_walGrown.notify_one();
+            }
             return SQLITE_OK;
         },
-        nullptr);
+        this);
+    m_checkpointThread = std::thread([this] { checkpointLoop(); });
     m_thread = std::thread([this] { writeLoop(); });
+}
+
+void SqliteStore::checkpointLoop() {
+    for (;;) {
+        {
+            std::unique_lock lock(m_checkpointMutex);
+            m_walGrown.wait(lock, [this] { return m_checkpointDue || m_checkpointStopping; });
+            if (m_checkpointStopping) return;
+            m_checkpointDue = false;
+        }
+        // A connection that has never read the database has not opened the WAL, and its
+        // checkpoint would copy nothing: it reads first.
+        sqlite3_exec(m_checkpointer, "SELECT 1 FROM sqlite_schema LIMIT 1", nullptr, nullptr,
+                     nullptr);
+        const int status = sqlite3_wal_checkpoint_v2(m_checkpointer, nullptr,
+                                                     SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
+        if (status != SQLITE_OK)
+            serviceLog().failure("checkpoint", std::string("copia del WAL non riuscita: ") +
+                                                   sqlite3_errmsg(m_checkpointer));
+        std::unique_lock lock(m_checkpointMutex);
+        m_walGrown.wait_for(lock, std::chrono::milliseconds(100),
+                            [this] { return m_checkpointStopping; });
+    }
 }
 
 SqliteStore::~SqliteStore() {
@@ -217,6 +254,14 @@ SqliteStore::~SqliteStore() {
         }
         m_queued.notify_one();
         m_thread.join();
+    }
+    if (m_checkpointThread.joinable()) {
+        {
+            std::lock_guard lock(m_checkpointMutex);
+            m_checkpointStopping = true;
+        }
+        m_walGrown.notify_one();
+        m_checkpointThread.join();
     }
     release();
 }
@@ -231,6 +276,8 @@ void SqliteStore::release() {
     m_readers.clear();
     sqlite3_finalize(m_insert);
     sqlite3_finalize(m_existing);
+    sqlite3_close(m_checkpointer);
+    m_checkpointer = nullptr;
     // The last connection to close checkpoints the WAL into the database and removes it.
     sqlite3_close(m_writer);
     m_writer = nullptr;

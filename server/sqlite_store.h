@@ -1,6 +1,7 @@
 // The world table in one SQLite file (WAL). Submissions are written by one thread that commits
 // whatever has queued up in one transaction, so each fsync serves many records; reads use a small
-// pool of their own connections; the writer copies the WAL back whenever it has grown long.
+// pool of their own connections; a thread of its own copies the WAL back, and the writer
+// finishes the copy whenever the WAL has grown long.
 #pragma once
 
 #include "server/record_store.h"
@@ -38,6 +39,7 @@ private:
 
     void release();
     void writeLoop();
+    void checkpointLoop();
     std::optional<Stored> insert(const WorldRecord& record);
 
     sqlite3* m_writer = nullptr;
@@ -48,6 +50,13 @@ private:
     std::deque<Pending*> m_queue;
     bool m_stopping = false;
     std::thread m_thread;
+
+    sqlite3* m_checkpointer = nullptr;
+    std::mutex m_checkpointMutex;
+    std::condition_variable m_walGrown;
+    bool m_checkpointDue = false;
+    bool m_checkpointStopping = false;
+    std::thread m_checkpointThread;
 
     std::mutex m_readMutex;
     std::condition_variable m_readerFree;
