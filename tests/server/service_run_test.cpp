@@ -161,6 +161,25 @@ TEST(ServiceRun, OnlyAPlayersOwnGetStoresAndPipelinedRequestsAreEachAnswered) {
         EXPECT_EQ(table.find(refused), std::string::npos) << refused;
 }
 
+TEST(ServiceRun, TheAddressAndTheHeadersAreBoundedToTheByte) {
+    testing::TempFolder folder;
+    RunningService service(folder.path() / "records.sqlite");
+    ASSERT_GT(service.port, 0);
+    // A request of exactly `bytes`, request line and headers, without the closing blank line.
+    const auto sized = [](std::size_t bytes) {
+        const std::string start = "GET / HTTP/1.1\r\nHost: x\r\nX-Pad: ";
+        return start + std::string(bytes - start.size() - 2, 'p') + "\r\n\r\n";
+    };
+    const std::pair<std::string, int> cases[] = {
+        {get("/records/?" + std::string(2048 - 10, 'x')), 200},
+        {get("/records/?" + std::string(2049 - 10, 'x')), 414},
+        {sized(8192), 200},
+        {sized(8193), 431},
+    };
+    for (const auto& [request, status] : cases)
+        EXPECT_EQ(fetch(service.port, request).status, status) << request.size();
+}
+
 TEST(ServiceRun, ASecondServiceOnThePortFailsAtOnceSayingWhy) {
     testing::TempFolder folder;
     RunningService first(folder.path() / "a.sqlite");
