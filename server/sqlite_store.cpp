@@ -188,8 +188,11 @@ SqliteStore::SqliteStore(const std::filesystem::path& file, int readers) {
                                                    order + " LIMIT ?");
             reader->where =
                 prepare(reader->db, "SELECT lingua, tempo, punti FROM record WHERE id=?");
-            reader->ahead = prepare(reader->db, "SELECT count(*) FROM record WHERE lingua=?1 AND "
-                                                "tempo=?2 AND (punti>?3 OR (punti=?3 AND id<?4))");
+            // Two ranges of the index: the OR of one condition would walk the whole table.
+            reader->ahead = prepare(
+                reader->db, "SELECT (SELECT count(*) FROM record WHERE lingua=?1 AND tempo=?2 AND "
+                            "punti>?3) + (SELECT count(*) FROM record WHERE lingua=?1 AND "
+                            "tempo=?2 AND punti=?3 AND id<?4)");
             reader->window = prepare(reader->db, std::string("SELECT ") + kRowColumns +
                                                      " FROM record WHERE lingua=? AND tempo=?" +
                                                      order + " LIMIT ? OFFSET ?");
