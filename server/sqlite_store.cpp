@@ -188,7 +188,7 @@ SqliteStore::SqliteStore(const std::filesystem::path& file, int readers) {
                                                    order + " LIMIT ?");
             reader->where =
                 prepare(reader->db, "SELECT lingua, tempo, punti FROM record WHERE id=?");
-            // Two ranges of the index: the OR of one condition would walk the whole table.
+            // Two ranges of the index, counted without testing every row against an OR.
             reader->ahead = prepare(
                 reader->db, "SELECT (SELECT count(*) FROM record WHERE lingua=?1 AND tempo=?2 AND "
                             "punti>?3) + (SELECT count(*) FROM record WHERE lingua=?1 AND "
