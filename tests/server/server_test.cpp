@@ -291,7 +291,8 @@ TEST(Config, FileThenArgumentsWithClearErrors) {
         {"port = 70000\n", "riga 1: port"},
         {"\nporta = 1\n", "riga 2: impostazione sconosciuta: porta"},
         {"threads\n", "riga 1: manca \"=\""},
-        {"submissions-per-minute = -1\n", "riga 1: submissions-per-minute"}};
+        {"submissions-per-minute = -1\n", "riga 1: submissions-per-minute"},
+        {"trusted-proxy = localhost\n", "riga 1: trusted-proxy"}};
     for (const auto& [text, error] : bad) {
         std::istringstream in(text);
         EXPECT_EQ(readConfig(in, config).rfind(error, 0), 0u) << text;
