@@ -1,4 +1,4 @@
-// The HTTP workers: threads that take connections from a queue with a ceiling.
+// The workers: threads that take tasks from a queue with a ceiling.
 #include "server/bounded_pool.h"
 
 namespace griglione {
@@ -40,7 +40,7 @@ void BoundedPool::work() {
         {
             std::unique_lock lock(m_mutex);
             m_ready.wait(lock, [this] { return m_stopping || !m_tasks.empty(); });
-            // Queued connections are still served on the way out: each task closes its socket.
+            // Queued tasks still run on the way out: each one answers a waiting request.
             if (m_tasks.empty()) return;
             task = std::move(m_tasks.front());
             m_tasks.pop_front();

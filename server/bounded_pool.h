@@ -1,9 +1,7 @@
-// The HTTP server's workers: a fixed number of threads and a bounded queue of connections.
-// When the queue is full the accepting thread waits, so a flood backs up into the kernel's
-// listen queue instead of into memory.
+// The workers that run what may wait on the database: a fixed number of threads and a bounded
+// queue of tasks. When the queue is full the caller waits, so a flood backs up into the
+// connections already held instead of into memory.
 #pragma once
-
-#include <httplib.h>
 
 #include <condition_variable>
 #include <deque>
@@ -14,13 +12,14 @@
 
 namespace griglione {
 
-class BoundedPool final : public httplib::TaskQueue {
+class BoundedPool final {
 public:
     BoundedPool(int threads, std::size_t queued);
-    ~BoundedPool() override;
+    ~BoundedPool();
 
-    void enqueue(std::function<void()> task) override;
-    void shutdown() override;
+    void enqueue(std::function<void()> task);
+    // Runs what is queued, then ends the threads.
+    void shutdown();
 
 private:
     void work();

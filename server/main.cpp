@@ -15,8 +15,13 @@ int main(int argc, char** argv) {
     using namespace griglione;
     ServiceConfig config;
     if (const std::string error = readArguments(argc, argv, config); !error.empty()) {
-        std::cerr << "griglione-records: " << error << "\n";
+        std::cerr << "griglione-records: " << error << "\n"
+                  << "griglione-records --help mostra le impostazioni.\n";
         return 2;
+    }
+    if (config.help) {
+        std::cout << usage();
+        return 0;
     }
     // The signals are taken by one thread of our own, which can stop the server safely.
     sigset_t signals;
@@ -28,13 +33,17 @@ int main(int argc, char** argv) {
 
     try {
         SqliteStore store(config.database);
-        RecordsService service(store, config.submissionsPerMinute);
+        RecordsService service(store, config.submissionsPerMinute, config.refusalsPerMinute);
         const StaticFiles files(config.pages);
-        HttpFront front(service, files, config.threads);
+        FrontOptions options;
+        options.workers = config.threads;
+        options.connections = config.connections;
+        options.connectionsPerAddress = config.connectionsPerAddress;
+        options.trustedProxy = config.trustedProxy;
+        HttpFront front(service, files, options);
         const int port = front.bind(config.address, config.port);
         if (port < 0) {
-            std::cerr << "griglione-records: impossibile ascoltare su " << config.address << ":"
-                      << config.port << "\n";
+            std::cerr << "griglione-records: " << front.error() << "\n";
             return 1;
         }
         std::cout << "griglione-records in ascolto su http://" << config.address << ":" << port
@@ -45,7 +54,10 @@ int main(int argc, char** argv) {
             front.stop();
         });
         const bool ok = front.run();
-        if (!ok) pthread_kill(stopper.native_handle(), SIGTERM);
+        if (!ok) {
+            std::cerr << "griglione-records: " << front.error() << "\n";
+            pthread_kill(stopper.native_handle(), SIGTERM);
+        }
         stopper.join();
         std::cout << "griglione-records fermato." << std::endl;
         return ok ? 0 : 1;

@@ -3,6 +3,8 @@
 
 #include "server/escape.h"
 
+#include <algorithm>
+
 namespace griglione {
 namespace {
 
@@ -53,6 +55,12 @@ std::string frame(std::string_view title, std::string_view body) {
     return page;
 }
 
+// The game sends the blanks of a note (and " %$&!=") as "_": they are shown as blanks.
+std::string shownNote(std::string note) {
+    std::replace(note.begin(), note.end(), '_', ' ');
+    return note;
+}
+
 std::string tableLink(int lingua, int tempo) {
     return "/records/?Language=" + std::to_string(lingua) + "&amp;Tempo=" + std::to_string(tempo);
 }
@@ -64,7 +72,7 @@ std::string rowsTable(const std::vector<TableRow>& rows, std::int64_t highlighte
         html += row.id == highlighted ? "<tr class=\"tuo\">" : "<tr>";
         html += "<td class=\"n\">" + std::to_string(row.posto) + "</td><td>" +
                 htmlEscape(row.nome) + "</td><td class=\"n\">" + groupedNumber(row.punti) +
-                "</td><td>" + htmlEscape(row.note) + "</td><td class=\"largo n\">" +
+                "</td><td>" + htmlEscape(shownNote(row.note)) + "</td><td class=\"largo n\">" +
                 htmlEscape(row.data) + " " + htmlEscape(row.ora) + "</td></tr>\n";
     }
     return html + "</tbody>\n</table>\n";
@@ -129,8 +137,8 @@ std::string tableJson(int lingua, int tempo, const std::vector<TableRow>& rows) 
         const TableRow& row = rows[i];
         json += (i ? ",{" : "{") + std::string("\"posto\":") + std::to_string(row.posto) +
                 ",\"nome\":" + jsonString(row.nome) + ",\"punti\":" + std::to_string(row.punti) +
-                ",\"note\":" + jsonString(row.note) + ",\"data\":" + jsonString(row.data) +
-                ",\"ora\":" + jsonString(row.ora) + "}";
+                ",\"note\":" + jsonString(shownNote(row.note)) +
+                ",\"data\":" + jsonString(row.data) + ",\"ora\":" + jsonString(row.ora) + "}";
     }
     return json + "]}\n";
 }

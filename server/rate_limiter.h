@@ -1,4 +1,5 @@
-// Submissions per client address per minute, counted in fixed one-minute windows.
+// Events per client address per minute (records stored, requests refused), counted in fixed
+// one-minute windows.
 #pragma once
 
 #include <chrono>
@@ -17,12 +18,17 @@ public:
 
     // Counts one request of `client` at `now`; false past the limit of its minute.
     bool allow(const std::string& client, Time now);
+    // Whether `client` has used up its minute, without counting anything.
+    bool exhausted(const std::string& client, Time now);
+    void count(const std::string& client, Time now);
 
 private:
     struct Window {
         Time start;
         int count = 0;
     };
+
+    Window& window(const std::string& client, Time now);
 
     int m_perMinute;
     std::mutex m_mutex;

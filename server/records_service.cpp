@@ -18,8 +18,8 @@ int tableKey(int lingua, int tempo) {
 
 } // namespace
 
-RecordsService::RecordsService(RecordStore& store, int submissionsPerMinute)
-    : m_store(store), m_limiter(submissionsPerMinute) {}
+RecordsService::RecordsService(RecordStore& store, int submissionsPerMinute, int refusalsPerMinute)
+    : m_store(store), m_limiter(submissionsPerMinute), m_refusals(refusalsPerMinute) {}
 
 Reply RecordsService::error(int status, std::string_view title, std::string_view text) {
     return {status, kHtml, errorPage(title, text)};
@@ -27,14 +27,19 @@ Reply RecordsService::error(int status, std::string_view title, std::string_view
 
 Reply RecordsService::submit(std::string_view query, const std::string& client,
                              RateLimiter::Time now) {
-    if (!m_limiter.allow(client, now))
+    const auto tooMany = [] {
         return error(429, "Troppi invii",
                      std::string("Da questo indirizzo sono arrivati troppi record nell'ultimo "
                                  "minuto: riprova tra un minuto.") +
                          kNotStored);
+    };
+    if (m_limiter.exhausted(client, now)) return tooMany();
     const Submission submission = readSubmission(query);
+    // A refusal uses up only the allowance of refusals: a good record still gets through.
     if (!submission.record)
-        return error(400, "Richiesta non valida", submission.errore + kNotStored);
+        return m_refusals.allow(client, now)
+                   ? error(400, "Richiesta non valida", submission.errore + kNotStored)
+                   : tooMany();
     const WorldRecord& record = *submission.record;
     const auto stored = m_store.add(record);
     if (!stored)
@@ -42,6 +47,8 @@ Reply RecordsService::submit(std::string_view query, const std::string& client,
                      std::string("Il database non ha potuto salvare il record: riprova più "
                                  "tardi.") +
                          kNotStored);
+    // Only a new record uses up the allowance of records; sending one again is a refusal.
+    (stored->nuovo ? m_limiter : m_refusals).count(client, now);
     if (stored->nuovo) {
         std::lock_guard lock(m_cacheMutex);
         ++m_generation[tableKey(record.lingua, record.tempo)];

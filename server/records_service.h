@@ -28,7 +28,8 @@ inline constexpr int kTableSize = 50;
 
 class RecordsService {
 public:
-    RecordsService(RecordStore& store, int submissionsPerMinute);
+    // Records stored and requests refused are counted apart, per client and minute.
+    RecordsService(RecordStore& store, int submissionsPerMinute, int refusalsPerMinute = 60);
 
     // "/records/griglione.asp?<query>" from `client`.
     Reply submit(std::string_view query, const std::string& client, RateLimiter::Time now);
@@ -46,6 +47,7 @@ private:
 
     RecordStore& m_store;
     RateLimiter m_limiter;
+    RateLimiter m_refusals;
     std::mutex m_cacheMutex;
     std::map<int, std::uint64_t> m_generation; // per language and length
     std::map<int, Cached> m_cache;             // per language, length and format

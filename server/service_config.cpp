@@ -3,6 +3,8 @@
 
 #include "core/ansi_text.h"
 
+#include <arpa/inet.h>
+
 #include <charconv>
 #include <fstream>
 
@@ -35,8 +37,23 @@ std::string set(ServiceConfig& config, const std::string& name, const std::strin
     } else if (name == "submissions-per-minute") {
         if (!integer(value, 0, 1'000'000, config.submissionsPerMinute))
             return "submissions-per-minute: serve un numero da 0 (nessun limite) a 1000000";
+    } else if (name == "refusals-per-minute") {
+        if (!integer(value, 0, 1'000'000, config.refusalsPerMinute))
+            return "refusals-per-minute: serve un numero da 0 (nessun limite) a 1000000";
     } else if (name == "threads") {
         if (!integer(value, 1, 1024, config.threads)) return "threads: serve un numero da 1 a 1024";
+    } else if (name == "connections") {
+        if (!integer(value, 16, 1'000'000, config.connections))
+            return "connections: serve un numero da 16 a 1000000";
+    } else if (name == "connections-per-address") {
+        if (!integer(value, 0, 1'000'000, config.connectionsPerAddress))
+            return "connections-per-address: serve un numero da 0 (nessun limite) a 1000000";
+    } else if (name == "trusted-proxy") {
+        in6_addr probe{};
+        if (!value.empty() && inet_pton(AF_INET, value.c_str(), &probe) != 1 &&
+            inet_pton(AF_INET6, value.c_str(), &probe) != 1)
+            return "trusted-proxy: serve un indirizzo IP (come 127.0.0.1) o niente";
+        config.trustedProxy = value;
     } else {
         return "impostazione sconosciuta: " + name;
     }
@@ -51,6 +68,23 @@ std::string readConfigFile(const std::string& file, ServiceConfig& config) {
 }
 
 } // namespace
+
+std::string usage() {
+    return "Uso: griglione-records [--config FILE] [--IMPOSTAZIONE VALORE]...\n"
+           "Il servizio dei record mondiali di Il Griglione.\n\n"
+           "  --config FILE                  legge le impostazioni da FILE (righe nome = valore)\n"
+           "  --address IP                   indirizzo di ascolto (127.0.0.1)\n"
+           "  --port N                       porta (8089; 0: una libera qualsiasi)\n"
+           "  --database FILE                il database SQLite (griglione-records.sqlite)\n"
+           "  --pages CARTELLA               la guida e le sue immagini\n"
+           "  --submissions-per-minute N     record registrati per cliente al minuto (20)\n"
+           "  --refusals-per-minute N        invii rifiutati per cliente al minuto (60)\n"
+           "  --threads N                    thread per gli invii (16)\n"
+           "  --connections N                connessioni aperte in tutto (4096)\n"
+           "  --connections-per-address N    connessioni aperte per indirizzo (16)\n"
+           "  --trusted-proxy IP             il server web davanti, di cui vale X-Forwarded-For\n"
+           "  --help                         mostra questo aiuto\n";
+}
 
 std::string readConfig(std::istream& in, ServiceConfig& config) {
     std::string line;
@@ -70,6 +104,10 @@ std::string readConfig(std::istream& in, ServiceConfig& config) {
 std::string readArguments(int argc, const char* const* argv, ServiceConfig& config) {
     for (int i = 1; i < argc; ++i) {
         std::string name = argv[i], value;
+        if (name == "--help" || name == "-h") {
+            config.help = true;
+            continue;
+        }
         if (!name.starts_with("--")) return "argomento non previsto: " + name;
         name.erase(0, 2);
         if (const std::size_t equals = name.find('='); equals != std::string::npos) {

@@ -1,6 +1,7 @@
 // The world table in one SQLite file (WAL). Submissions are written by one thread that commits
 // whatever has queued up in one transaction, so each fsync serves many records; reads use a small
-// pool of their own connections; checkpoints run on a thread of their own.
+// pool of their own connections; a thread of its own copies the WAL back, and the writer
+// finishes the copy whenever the WAL has grown long.
 #pragma once
 
 #include "server/record_store.h"
@@ -50,8 +51,6 @@ private:
     bool m_stopping = false;
     std::thread m_thread;
 
-    // The WAL is copied back into the database by a thread of its own, so that no submission
-    // waits for a checkpoint.
     sqlite3* m_checkpointer = nullptr;
     std::mutex m_checkpointMutex;
     std::condition_variable m_walGrown;

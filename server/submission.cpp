@@ -2,6 +2,7 @@
 #include "server/submission.h"
 
 #include "core/ansi_text.h"
+#include "server/pages.h"
 #include "server/query.h"
 
 #include <algorithm>
@@ -51,6 +52,21 @@ bool printable(std::string_view bytes) {
     return true;
 }
 
+// A blank, the no-break space and the soft hyphen show nothing on their own.
+bool visible(std::string_view bytes) {
+    for (const char c : bytes) {
+        const auto b = static_cast<unsigned char>(c);
+        if (b != ' ' && b != 0xA0 && b != 0xAD) return true;
+    }
+    return false;
+}
+
+std::chrono::year_month_day dateOf(std::string_view data) {
+    return {std::chrono::year(digits(data, 6, 4)),
+            std::chrono::month(static_cast<unsigned>(digits(data, 3, 2))),
+            std::chrono::day(static_cast<unsigned>(digits(data, 0, 2)))};
+}
+
 bool dateExists(std::string_view data) {
     if (data.size() != 10 || data[2] != '-' || data[5] != '-' || !allDigits(data.substr(0, 2)) ||
         !allDigits(data.substr(3, 2)) || !allDigits(data.substr(6, 4)))
@@ -84,6 +100,20 @@ Submission refused(std::string errore) {
 
 } // namespace
 
+std::int32_t plausiblePunti(int lingua, int tempo) {
+    // Per language, for 60, 90, 120 and 300 seconds.
+    constexpr std::int32_t kBound[3][4] = {{98'000, 141'000, 183'000, 402'000},
+                                           {78'000, 108'000, 133'000, 216'000},
+                                           {98'000, 137'000, 173'000, 364'000}};
+    if (!validLanguage(lingua) || !validLength(tempo)) return 0;
+    const int column = tempo == 60 ? 0 : tempo == 90 ? 1 : tempo == 120 ? 2 : 3;
+    return std::min(kBound[lingua - 1][column], maxPunti(tempo));
+}
+
+std::chrono::sys_days today() {
+    return std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now());
+}
+
 std::int32_t maxPunti(int tempo) {
     return validLength(tempo) ? tempo * 2000 : 0;
 }
@@ -96,7 +126,7 @@ bool validLanguage(int lingua) {
     return lingua >= 1 && lingua <= 3;
 }
 
-Submission readSubmission(std::string_view query) {
+Submission readSubmission(std::string_view query, std::chrono::sys_days now) {
     const auto parts = parseQuery(query);
     if (!parts)
         return refused("L'indirizzo contiene un \"%\" non seguito da due cifre esadecimali.");
@@ -112,7 +142,7 @@ Submission readSubmission(std::string_view query) {
 
     WorldRecord record;
     const std::string_view nome = trimmedView(value["Nome"]);
-    if (nome.empty()) return refused("Il nome è vuoto.");
+    if (!visible(nome)) return refused("Il nome è vuoto.");
     if (nome.size() > kMaxNameBytes) return refused("Il nome supera i 30 caratteri.");
     if (!printable(nome)) return refused("Il nome contiene caratteri non ammessi.");
     record.nome = fromAnsi(nome);
@@ -123,6 +153,11 @@ Submission readSubmission(std::string_view query) {
 
     if (!dateExists(value["data"]))
         return refused("La data " + quoted(value["data"]) + " non esiste (forma gg-mm-aaaa).");
+    const auto data = dateOf(value["data"]);
+    if (data.year() < std::chrono::year(kFirstYear))
+        return refused("La data " + quoted(value["data"]) + " è anteriore al gioco.");
+    if (std::chrono::sys_days(data) > now + std::chrono::days(1))
+        return refused("La data " + quoted(value["data"]) + " è nel futuro.");
     record.data = value["data"];
     if (!timeExists(value["ora"]))
         return refused("L'ora " + quoted(value["ora"]) + " non esiste (forma hh:mm).");
@@ -145,10 +180,14 @@ Submission readSubmission(std::string_view query) {
         return refused("Il punteggio supera il massimo possibile.");
     if (!score) return refused("Il punteggio deve essere un numero intero.");
     if (*score % 20 != 0) return refused("Il punteggio deve essere un multiplo di 20.");
-    if (*score > maxPunti(record.tempo))
+    if (*score < kMinPunti)
+        return refused("Il punteggio è sotto i 1000 punti, il minimo della tabella dei record.");
+    const std::int32_t bound = plausiblePunti(record.lingua, record.tempo);
+    if (*score > bound)
         return refused("Il punteggio supera il massimo possibile in una partita di " +
-                       std::to_string(record.tempo) + " secondi (" +
-                       std::to_string(maxPunti(record.tempo)) + " punti).");
+                       std::to_string(record.tempo) + " secondi in " +
+                       std::string(languageName(record.lingua)) + " (" + std::to_string(bound) +
+                       " punti).");
     record.punti = *score;
 
     const std::string_view note = trimmedView(value["Note"]);

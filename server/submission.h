@@ -4,6 +4,7 @@
 
 #include "server/world_record.h"
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -25,10 +26,23 @@ struct Submission {
 // second held for the whole match, past the fastest typist. Zero for a length the game lacks.
 std::int32_t maxPunti(int tempo);
 
+// The most a record may hold: what the fastest player could enter, at ten presses a second, of
+// the richest of 100,000 boards dealt in `lingua` (bench/records_bound.cpp), rounded up to a
+// thousand, and never above maxPunti. Zero for a language or length the game lacks.
+std::int32_t plausiblePunti(int lingua, int tempo);
+// The game's records window opens only from this score.
+inline constexpr std::int32_t kMinPunti = 1000;
+// Records of years before the game's are not believed.
+inline constexpr int kFirstYear = 2000;
+
 bool validLength(int tempo);
 bool validLanguage(int lingua);
 
+// Today's date in UTC.
+std::chrono::sys_days today();
+
 // The query of "/records/griglione.asp": every part once, no other part, each value checked.
-Submission readSubmission(std::string_view query);
+// A date after `now` (UTC; a day ahead allowed for the player's time zone) is refused.
+Submission readSubmission(std::string_view query, std::chrono::sys_days now = today());
 
 } // namespace griglione

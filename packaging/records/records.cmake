@@ -8,6 +8,8 @@ install(FILES ${records_dir}/griglione-records.service DESTINATION /lib/systemd/
     COMPONENT records)
 install(FILES ${records_dir}/griglione-records.conf DESTINATION /etc/griglione-records
     COMPONENT records)
+install(FILES ${records_dir}/griglione-records.nginx DESTINATION /etc/nginx/sites-available
+    RENAME griglione-records COMPONENT records)
 install(FILES ${PROJECT_SOURCE_DIR}/data/GRIGLIONE.htm ${PROJECT_SOURCE_DIR}/data/aiuto.css
     ${PROJECT_SOURCE_DIR}/data/griglione.gif
     DESTINATION share/griglione-records COMPONENT records)
@@ -40,9 +42,10 @@ Receives the records that the game Il Griglione submits from its record
 table, checks them and keeps them in an SQLite database, and serves the world
 table (the best 50 of each language and match length) as Italian web pages
 and as JSON, with the game's home page and help. Runs as a systemd service
-under its own system user.")
+under its own system user; an nginx site for a TLS front is included.")
 set(CPACK_DEBIAN_RECORDS_PACKAGE_SECTION web)
 set(CPACK_DEBIAN_RECORDS_PACKAGE_RECOMMENDS "")
+set(CPACK_DEBIAN_RECORDS_PACKAGE_SUGGESTS "nginx")
 set(CPACK_DEBIAN_RECORDS_PACKAGE_DEPENDS "adduser")
 set(CPACK_DEBIAN_RECORDS_PACKAGE_CONTROL_EXTRA
     "${records_dir}/conffiles;${records_dir}/postinst;${records_dir}/prerm;${records_dir}/postrm")

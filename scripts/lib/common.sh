@@ -3,7 +3,7 @@
 
 BUILD_PACKAGES=(cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev qt6-svg-dev libgtest-dev
     libgmock-dev qt6-tools-dev qt6-l10n-tools fonts-wine fonts-liberation pkg-config
-    libcpp-httplib-dev libsqlite3-dev)
+    libmicrohttpd-dev libsqlite3-dev nginx openssl curl)
 
 install_missing() {
     local missing=()

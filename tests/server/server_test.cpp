@@ -12,7 +12,9 @@
 
 #include <sqlite3.h>
 
+#include <filesystem>
 #include <sstream>
+#include <thread>
 
 namespace griglione {
 namespace {
@@ -69,10 +71,42 @@ TEST(Submission, ReadsTheGamesPartsInWindows1252) {
                                          "ciao+%=", "anna@segreto.example", "23:59", 2}));
     // Trimmed name and empty notes and e-mail are fine; so are the bounds themselves.
     for (const std::string& query :
-         {with("Nome", "++X+"), with("Note", ""), with("E_MAIL", ""), with("punti", "120000"),
-          with("punti", "0"), with("data", "31-12-9999"), with("ora", "00:00"),
-          with("Nome", std::string(30, 'N')), with("Note", std::string(200, 'n'))})
+         {with("Nome", "++X+"), with("Note", ""), with("E_MAIL", ""), with("punti", "78000"),
+          with("punti", "1000"), with("data", "01-01-2000"), with("ora", "00:00"),
+          with("Nome", "%A0%ADx%A0"), with("Nome", std::string(30, 'N')),
+          with("Note", std::string(200, 'n'))})
         EXPECT_TRUE(readSubmission(query).record) << query;
+}
+
+TEST(Submission, BoundsScoreAndDateByLanguageLengthAndToday) {
+    using namespace std::chrono;
+    const sys_days today = year(2026) / March / 5;
+    const std::tuple<std::string, std::string, bool> cases[] = {
+        {"punti=980&Tempo=300&Language=1&data=01-01-2026", "sotto i 1000", false},
+        // The bound follows the language: 98,000 in Latin for a minute, 78,000 in English.
+        {"punti=98000&Tempo=60&Language=3&data=01-01-2026", "", true},
+        {"punti=78020&Tempo=60&Language=2&data=01-01-2026", "in inglese (78000 punti)", false},
+        {"punti=402000&Tempo=300&Language=1&data=01-01-2026", "", true},
+        {"punti=402020&Tempo=300&Language=1&data=01-01-2026", "(402000 punti)", false},
+        // A day ahead of UTC is a player east of it; two days is the future.
+        {"punti=1000&Tempo=60&Language=1&data=06-03-2026", "", true},
+        {"punti=1000&Tempo=60&Language=1&data=07-03-2026", "nel futuro", false},
+        {"punti=1000&Tempo=60&Language=1&data=31-12-1999", "anteriore al gioco", false},
+    };
+    for (const auto& [parts, message, stored] : cases) {
+        Parts changed = kGood;
+        std::string query;
+        for (auto& [key, value] : changed)
+            for (std::string_view rest = parts; !rest.empty();) {
+                const std::string_view part = rest.substr(0, rest.find('&'));
+                rest = part.size() < rest.size() ? rest.substr(part.size() + 1) : "";
+                if (part.starts_with(key + "=")) value = part.substr(key.size() + 1);
+            }
+        const Submission result = readSubmission(joined(changed), today);
+        EXPECT_EQ(result.record.has_value(), stored) << parts << " → " << result.errore;
+        EXPECT_NE(result.errore.find(message), std::string::npos)
+            << parts << " → " << result.errore;
+    }
 }
 
 TEST(Submission, RefusesEachBadInputSayingWhy) {
@@ -83,13 +117,15 @@ TEST(Submission, RefusesEachBadInputSayingWhy) {
         {with("", "&nome=X"), "Parte sconosciuta nell'indirizzo: \"nome\""},
         {with("", "&%C8=1"), "Parte sconosciuta nell'indirizzo: \"È\""},
         {with("Nome", "%20%20"), "Il nome è vuoto"},
+        {with("Nome", "%A0+%A0"), "Il nome è vuoto"},
+        {with("Nome", "%AD"), "Il nome è vuoto"},
         {with("Nome", std::string(31, 'N')), "supera i 30"},
         {with("Nome", "A%0AB"), "caratteri non ammessi"},
         {with("Note", "x%81"), "Le note contengono"},
         {with("Note", std::string(201, 'n')), "superano i 200"},
         {with("punti", "-20"), "negativo"},
         {with("punti", "1250"), "multiplo di 20"},
-        {with("punti", "120020"), "massimo possibile in una partita di 60 secondi (120000"},
+        {with("punti", "120000"), "massimo possibile in una partita di 60 secondi"},
         {with("punti", "99999999999"), "supera il massimo"},
         {with("punti", "12a0"), "numero intero"},
         {with("punti", ""), "numero intero"},
@@ -119,7 +155,7 @@ TEST(Submission, RefusesEachBadInputSayingWhy) {
 struct ServiceTest : ::testing::Test {
     testing::TempFolder folder;
     SqliteStore store{folder.path() / "records.sqlite", 2};
-    RecordsService service{store, 3};
+    RecordsService service{store, 3, 5};
     RateLimiter::Time now{};
 
     Reply send(const std::string& query, const std::string& client = "10.0.0.1") {
@@ -160,25 +196,31 @@ TEST_F(ServiceTest, StoresOnceShowsEscapedAndNeverTheEmail) {
     EXPECT_EQ(json.body.find("segreto"), std::string::npos);
 }
 
-TEST_F(ServiceTest, BadInputStoresNothingAndTheLimitCountsEveryTry) {
-    EXPECT_EQ(send(with("punti", "30")).status, 400);
-    EXPECT_EQ(send(with("punti", "40")).status, 200);
-    EXPECT_EQ(send(with("punti", "60")).status, 200);
-    const Reply over = send(with("punti", "80"));
+TEST_F(ServiceTest, RefusalsAndRecordsHaveAllowancesOfTheirOwn) {
+    // Bad requests use up only their own allowance: the client's good record still goes in.
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(send(with("punti", "1030")).status, 400);
+    EXPECT_EQ(send(with("punti", "1030")).status, 429);
+    EXPECT_EQ(send(with("punti", "1040")).status, 200);
+    // Sending a stored record again stores nothing, so it does not count as a record.
+    EXPECT_EQ(send(with("punti", "1040")).status, 200);
+    EXPECT_EQ(send(with("punti", "1060")).status, 200);
+    EXPECT_EQ(send(with("punti", "1080")).status, 200);
+    const Reply over = send(with("punti", "1100"));
     EXPECT_EQ(over.status, 429);
     EXPECT_NE(over.body.find("non è stato registrato"), std::string::npos);
-    EXPECT_EQ(send(with("punti", "80"), "10.0.0.9").status, 200);
+    EXPECT_EQ(send(with("punti", "1100"), "10.0.0.9").status, 200);
     now += std::chrono::minutes(1);
-    EXPECT_EQ(send(with("punti", "100")).status, 200);
-    EXPECT_EQ(store.best(2, 60, 50)->size(), 4u);
+    EXPECT_EQ(send(with("punti", "1120")).status, 200);
+    EXPECT_EQ(store.best(2, 60, 50)->size(), 5u);
 }
 
 TEST_F(ServiceTest, PlacesEqualScoresInArrivalOrderWithFiveAroundTheNewOne) {
     RecordsService open{store, 0};
     for (int i = 1; i <= 14; ++i)
-        open.submit(score("P" + std::to_string(i), 2000 - i * 100), "a", now);
+        open.submit(score("P" + std::to_string(i), 3000 - i * 100), "a", now);
     const Reply cached = open.table("Language=1&Tempo=90&format=json");
-    const Reply page = open.submit(score("NEW", 1300), "a", now); // P7 holds 1300 already
+    const Reply page = open.submit(score("NEW", 2300), "a", now); // P7 holds 2300 already
     EXPECT_NE(page.body.find("8° posto"), std::string::npos);
     for (int shown : {3, 4, 5, 6, 7, 9, 10, 11, 12, 13})
         EXPECT_NE(page.body.find("<td class=\"n\">" + std::to_string(shown) + "</td>"),
@@ -212,6 +254,29 @@ TEST(SqliteStoreFile, KeepsRecordsAcrossRunsAndRefusesANewerSchema) {
     EXPECT_THROW(SqliteStore{folder.path()}, std::runtime_error);
 }
 
+TEST(SqliteStoreFile, CopiesTheWalBackWhileServing) {
+    testing::TempFolder folder;
+    const auto file = folder.path() / "w.sqlite";
+    SqliteStore store(file);
+    // Many clients at once, as under load: the writer commits them in groups.
+    std::vector<std::thread> clients;
+    for (int c = 0; c < 32; ++c)
+        clients.emplace_back([&store, c] {
+            for (int i = 0; i < 500; ++i)
+                store.add({"N" + std::to_string(c) + "_" + std::to_string(i), "Griglione_ABC",
+                           "01-01-2026", 1000 + i * 20, 60, std::string(150, 'n'), "e@x.it",
+                           "10:00", 1 + c % 3});
+        });
+    for (std::thread& client : clients)
+        client.join();
+    const auto wal = std::filesystem::path(file.string() + "-wal");
+    // The checkpoint runs beside the writer: give it a moment to catch up.
+    for (int i = 0; i < 40 && std::filesystem::file_size(wal) > 8 << 20; ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    EXPECT_LE(std::filesystem::file_size(wal), 8u << 20);
+    EXPECT_GT(std::filesystem::file_size(file), 1u << 20);
+}
+
 TEST(Config, FileThenArgumentsWithClearErrors) {
     ServiceConfig config;
     std::istringstream file("# comment\n\nport = 9000\r\naddress=0.0.0.0\nthreads = 4\n");
@@ -226,7 +291,8 @@ TEST(Config, FileThenArgumentsWithClearErrors) {
         {"port = 70000\n", "riga 1: port"},
         {"\nporta = 1\n", "riga 2: impostazione sconosciuta: porta"},
         {"threads\n", "riga 1: manca \"=\""},
-        {"submissions-per-minute = -1\n", "riga 1: submissions-per-minute"}};
+        {"submissions-per-minute = -1\n", "riga 1: submissions-per-minute"},
+        {"trusted-proxy = localhost\n", "riga 1: trusted-proxy"}};
     for (const auto& [text, error] : bad) {
         std::istringstream in(text);
         EXPECT_EQ(readConfig(in, config).rfind(error, 0), 0u) << text;
