@@ -71,6 +71,11 @@ HttpFront::HttpFront(RecordsService& service, const StaticFiles& files, int thre
     };
     server.Get("/records/", table);
     server.Get("/records", table);
+    server.Get(R"(/(sfide|oggi|giorni)(/.*)?)", [&service](const httplib::Request& req,
+                                                           httplib::Response& res) {
+        send(res, service.challenge(req.target, req.remote_addr, std::chrono::steady_clock::now()),
+             req.path == "/sfide/invia" ? "no-store" : "no-cache");
+    });
     server.Get("/", [&service](const httplib::Request&, httplib::Response& res) {
         send(res, service.home());
     });

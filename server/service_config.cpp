@@ -32,6 +32,9 @@ std::string set(ServiceConfig& config, const std::string& name, const std::strin
         config.database = value;
     } else if (name == "pages") {
         config.pages = value;
+    } else if (name == "dictionaries") {
+        if (value.empty()) return "dictionaries: manca la cartella";
+        config.dictionaries = value;
     } else if (name == "submissions-per-minute") {
         if (!integer(value, 0, 1'000'000, config.submissionsPerMinute))
             return "submissions-per-minute: serve un numero da 0 (nessun limite) a 1000000";
