@@ -28,6 +28,7 @@ p.codice code { font-size: 1.15rem; letter-spacing: 0.05em; }
 a.gioca { display: inline-block; padding: 0.5rem 1rem; background: var(--verde);
   color: var(--giallo); border-radius: 0.4rem; font-weight: bold; text-decoration: none; }
 details summary { cursor: pointer; }
+th.quando, td.quando { white-space: normal; }
 @media (max-width: 560px) {
   table.tabellone td { width: 3.2rem; height: 3.2rem; font-size: 1.7rem; }
 }
@@ -53,10 +54,9 @@ std::string boardTitle(int language, const std::optional<CivilDate>& day) {
                : "Sfida sul tabellone " + languageAdjective(language);
 }
 
-std::string boardTable(const SharedBoard& board, const std::string& codice) {
-    std::string html = "<table class=\"tabellone\">\n<caption>Il tabellone: 5 righe di 5 dadi, "
-                       "codice " +
-                       codice + "</caption>\n<tbody>\n";
+std::string boardTable(const SharedBoard& board) {
+    std::string html = "<table class=\"tabellone\">\n<caption>Il tabellone: 5 righe di 5 "
+                       "dadi</caption>\n<tbody>\n";
     for (int row = 0; row < 5; ++row) {
         html += "<tr>";
         for (int column = 0; column < 5; ++column) {
@@ -101,23 +101,24 @@ std::string wordsCell(const std::string& packed) {
 
 std::string playersTable(const std::vector<ChallengeRow>& rows, const std::string& highlighted) {
     if (rows.empty()) return "<p>Nessuno ha ancora inviato un risultato su questo tabellone.</p>\n";
-    std::string html = "<table>\n<thead><tr><th>Posto</th><th>Giocatore</th><th>Punti</th>"
-                       "<th>Parole</th><th class=\"largo\">Durata</th><th>Ricevuto (UTC)</th>"
-                       "</tr></thead>\n<tbody>\n";
+    std::string html =
+        "<table>\n<thead><tr><th>Posto</th><th>Giocatore</th><th>Punti</th>"
+        "<th>Parole</th><th class=\"largo\">Durata</th><th class=\"quando\">Ricevuto (UTC)</th>"
+        "</tr></thead>\n<tbody>\n";
     for (const ChallengeRow& row : rows) {
         const bool mine = !highlighted.empty() && playerKey(row.nome) == highlighted;
         html += mine ? "<tr class=\"tuo\">" : "<tr>";
         html += "<td class=\"n\">" + std::to_string(row.posto) + "</td><td>" +
                 htmlEscape(row.nome) + "</td><td class=\"n\">" + groupedNumber(row.punti) +
                 "</td><td>" + wordsCell(row.parole) + "</td><td class=\"largo n\">" +
-                std::to_string(row.tempo) + " s</td><td class=\"n\">" + receivedText(row.ricevuto) +
-                "</td></tr>\n";
+                std::to_string(row.tempo) + " s</td><td class=\"n quando\">" +
+                receivedText(row.ricevuto) + "</td></tr>\n";
     }
     return html + "</tbody>\n</table>\n";
 }
 
 std::string boardSection(const SharedBoard& board, const std::string& codice) {
-    return boardTable(board, codice) + "<p class=\"codice\">Codice: <code>" + groupedCode(codice) +
+    return boardTable(board) + "<p class=\"codice\">Codice: <code>" + groupedCode(codice) +
            "</code></p>\n<p><a class=\"gioca\" href=\"griglione:" + codice +
            "\">Gioca questo tabellone nel Griglione</a></p>\n"
            "<p>Il link apre il gioco installato. Altrimenti, nel gioco: menu File, \"Gioca un "
