@@ -149,8 +149,9 @@ std::string challengePage(const SharedBoard& board, const std::optional<CivilDat
     std::string body(kBoardStyle);
     body += "<h2>" + boardTitle(board.language, day) + "</h2>\n";
     if (day)
-        body += "<p>Il tabellone del giorno si gioca in partite di 120 secondi, con il menu "
-                "\"Tabellone del giorno\". I risultati si inviano quel giorno, il giorno prima "
+        body += "<p>Il tabellone del giorno si gioca in partite di 120 secondi, con la voce "
+                "\"Tabellone del giorno\" del gioco. I risultati si inviano quel giorno, il giorno "
+                "prima "
                 "o il giorno dopo.</p>\n";
     body += boardSection(board, codice);
     body += "<h2>Chi l'ha giocato</h2>\n" + playersTable(rows, highlighted);
@@ -189,7 +190,7 @@ std::string challengeJson(const SharedBoard& board, const std::optional<CivilDat
 std::string dayPage(const CivilDate& date, const CivilDate& today) {
     std::string body = "<h2>" + longDate(date) +
                        "</h2>\n<p>Lo stesso tabellone per tutti, uno "
-                       "per lingua, in partite di 120 secondi. Nel gioco: menu \"Tabellone del "
+                       "per lingua, in partite di 120 secondi. Nel gioco: la voce \"Tabellone del "
                        "giorno\".</p>\n<ul>\n";
     for (int language = 1; language <= 3; ++language) {
         const std::string codice = encodeBoard(dayBoard(date, language));
@@ -197,13 +198,14 @@ std::string dayPage(const CivilDate& date, const CivilDate& today) {
                 languageAdjective(language) + "</a>: <code>" + groupedCode(codice) +
                 "</code></li>\n";
     }
-    body += "</ul>\n<nav aria-label=\"Giorni\"><p>";
+    std::string links;
     const CivilDate before = dateFromDays(daysSinceEpoch(date) - 1);
     if (before.year >= DayBoards::kFirstYear)
-        body += "<a href=\"" + dayLink(before, today) + "\">Giorno precedente</a>";
+        links += "<a href=\"" + dayLink(before, today) + "\">Giorno precedente</a>";
     if (date < today)
-        body += " · <a href=\"" + dayLink(dateFromDays(daysSinceEpoch(date) + 1), today) +
-                "\">Giorno seguente</a>";
+        links += std::string(links.empty() ? "" : " · ") + "<a href=\"" +
+                 dayLink(dateFromDays(daysSinceEpoch(date) + 1), today) + "\">Giorno seguente</a>";
+    body += "</ul>\n<nav aria-label=\"Giorni\"><p>" + links;
     body += "</p></nav>\n";
     return framedPage(date == today ? "Tabelloni di oggi" : "Tabelloni del " + longDate(date),
                       body);
