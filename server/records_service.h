@@ -53,10 +53,11 @@ private:
 
     RecordStore& m_store;
     RateLimiter m_limiter;
-    ChallengeService* m_challenges = nullptr;
     std::mutex m_cacheMutex;
     std::map<int, std::uint64_t> m_generation; // per language and length
     std::map<int, Cached> m_cache;             // per language, length and format
+
+    ChallengeService* m_challenges = nullptr;
 };
 
 } // namespace griglione
