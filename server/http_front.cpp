@@ -2,6 +2,7 @@
 #include "server/http_front.h"
 
 #include "server/bounded_pool.h"
+#include "server/challenge_service.h"
 #include "server/connection_guard.h"
 #include "server/records_service.h"
 #include "server/service_log.h"
@@ -33,6 +34,8 @@ constexpr const char* kPagePolicy = "default-src 'none'; style-src 'self' 'unsaf
                                     "img-src 'self'; base-uri 'none'; form-action 'none'; "
                                     "frame-ancestors 'none'";
 constexpr std::string_view kSubmission = "/records/griglione.asp";
+// A challenge's result is stored like a record: only by the player's own GET, on a worker.
+constexpr std::string_view kChallengeSubmission = "/sfide/invia";
 
 // One request, from its request line to the end of its answer.
 struct Exchange {
@@ -189,7 +192,11 @@ struct HttpFront::State {
                           "no-cache", "GET, HEAD");
         const std::string_view target = exchange.target;
         const std::string_view path = target.substr(0, target.find('?'));
-        if (path == kSubmission) return submit(connection, exchange, get);
+        if (path == kSubmission || path == kChallengeSubmission)
+            return submit(connection, exchange, get);
+        if (ChallengeService::handles(path))
+            return answer(connection, exchange,
+                          service.challenge(target, exchange.client, Clock::now()), "no-cache");
         if (path == "/records/" || path == "/records")
             return answer(connection, exchange, service.table(queryOf(target)), "no-cache");
         if (path == "/") return answer(connection, exchange, service.home(), "no-cache");
@@ -228,8 +235,10 @@ struct HttpFront::State {
                           "no-store");
         MHD_suspend_connection(connection);
         workers.enqueue([this, connection, &exchange] {
-            exchange.reply =
-                service.submit(queryOf(exchange.target), exchange.client, Clock::now());
+            const std::string_view target = exchange.target;
+            exchange.reply = target.substr(0, target.find('?')) == kChallengeSubmission
+                                 ? service.challenge(target, exchange.client, Clock::now())
+                                 : service.submit(queryOf(target), exchange.client, Clock::now());
             MHD_resume_connection(connection);
         });
         return MHD_YES;

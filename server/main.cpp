@@ -1,8 +1,10 @@
 // griglione-records: the world-records service. Reads its settings, opens the database and serves
 // until SIGINT or SIGTERM, finishing the requests under way.
+#include "server/challenge_service.h"
 #include "server/http_front.h"
 #include "server/records_service.h"
 #include "server/service_config.h"
+#include "server/sqlite_challenge_store.h"
 #include "server/sqlite_store.h"
 #include "server/static_files.h"
 
@@ -34,6 +36,16 @@ int main(int argc, char** argv) {
     try {
         SqliteStore store(config.database);
         RecordsService service(store, config.submissionsPerMinute, config.refusalsPerMinute);
+        SqliteChallengeStore challengeStore(challengeDatabase(config.database));
+        const ChallengeDictionaries dictionaries(config.dictionaries);
+        for (int language = 1; language <= 3; ++language)
+            if (!dictionaries.has(language))
+                std::cerr << "griglione-records: manca il dizionario " << language << " in "
+                          << config.dictionaries.string() << ": le sfide in quella lingua sono "
+                          << "rifiutate\n";
+        const DayBoards days;
+        ChallengeService challenges(challengeStore, dictionaries, days);
+        service.offerChallenges(challenges);
         const StaticFiles files(config.pages);
         FrontOptions options;
         options.workers = config.threads;

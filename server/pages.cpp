@@ -169,4 +169,8 @@ std::string errorPage(std::string_view title, std::string_view text) {
                             "</p></div>\n");
 }
 
+std::string framedPage(std::string_view title, std::string_view body) {
+    return frame(title, body);
+}
+
 } // namespace griglione

@@ -26,4 +26,7 @@ std::string homePage();
 
 std::string errorPage(std::string_view title, std::string_view text);
 
+// Any page in the service's frame and style; `body` is HTML, escaped by the caller.
+std::string framedPage(std::string_view title, std::string_view body);
+
 } // namespace griglione

@@ -2,6 +2,7 @@
 // them.
 #include "server/records_service.h"
 
+#include "server/challenge_service.h"
 #include "server/pages.h"
 #include "server/query.h"
 #include "server/submission.h"
@@ -107,6 +108,29 @@ Reply RecordsService::table(std::string_view query) {
 
 Reply RecordsService::home() const {
     return {200, kHtml, homePage()};
+}
+
+Reply RecordsService::challenge(std::string_view target, const std::string& client,
+                                RateLimiter::Time now) {
+    const std::string_view path = target.substr(0, target.find('?'));
+    const std::string_view query =
+        path.size() < target.size() ? target.substr(path.size() + 1) : std::string_view();
+    if (!m_challenges || !ChallengeService::handles(path))
+        return error(404, "Pagina non trovata", "Questa pagina non esiste.");
+    if (path != "/sfide/invia") return m_challenges->answer(path, query, challengeTimeNow());
+    const auto tooMany = [] {
+        return error(429, "Troppi invii",
+                     "Da questo indirizzo sono arrivati troppi invii nell'ultimo minuto: riprova "
+                     "tra un minuto. Il risultato non è stato registrato.");
+    };
+    if (m_limiter.exhausted(client, now)) return tooMany();
+    Reply reply = m_challenges->answer(path, query, challengeTimeNow());
+    // As with records: a refused result uses up only the allowance of refusals.
+    if (reply.status == 200) {
+        m_limiter.count(client, now);
+        return reply;
+    }
+    return m_refusals.allow(client, now) ? reply : tooMany();
 }
 
 } // namespace griglione

@@ -14,6 +14,8 @@
 
 namespace griglione {
 
+class ChallengeService;
+
 inline constexpr const char* kHtml = "text/html; charset=utf-8";
 
 struct Reply {
@@ -37,6 +39,11 @@ public:
     Reply table(std::string_view query);
     Reply home() const;
 
+    // The challenge addresses ("/sfide/…", "/oggi/", "/giorni/…"), answered by `challenges` once
+    // it is given; a submission counts against the same limit as a record.
+    void offerChallenges(ChallengeService& challenges) { m_challenges = &challenges; }
+    Reply challenge(std::string_view target, const std::string& client, RateLimiter::Time now);
+
     static Reply error(int status, std::string_view title, std::string_view text);
 
 private:
@@ -51,6 +58,8 @@ private:
     std::mutex m_cacheMutex;
     std::map<int, std::uint64_t> m_generation; // per language and length
     std::map<int, Cached> m_cache;             // per language, length and format
+
+    ChallengeService* m_challenges = nullptr;
 };
 
 } // namespace griglione

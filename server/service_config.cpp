@@ -34,6 +34,9 @@ std::string set(ServiceConfig& config, const std::string& name, const std::strin
         config.database = value;
     } else if (name == "pages") {
         config.pages = value;
+    } else if (name == "dictionaries") {
+        if (value.empty()) return "dictionaries: manca la cartella";
+        config.dictionaries = value;
     } else if (name == "submissions-per-minute") {
         if (!integer(value, 0, 1'000'000, config.submissionsPerMinute))
             return "submissions-per-minute: serve un numero da 0 (nessun limite) a 1000000";
@@ -77,6 +80,7 @@ std::string usage() {
            "  --port N                       porta (8089; 0: una libera qualsiasi)\n"
            "  --database FILE                il database SQLite (griglione-records.sqlite)\n"
            "  --pages CARTELLA               la guida e le sue immagini\n"
+           "  --dictionaries CARTELLA        SLESSICO.1-3, per controllare le sfide\n"
            "  --submissions-per-minute N     record registrati per cliente al minuto (20)\n"
            "  --refusals-per-minute N        invii rifiutati per cliente al minuto (60)\n"
            "  --threads N                    thread per gli invii (16)\n"

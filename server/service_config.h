@@ -13,6 +13,8 @@ struct ServiceConfig {
     std::filesystem::path database = "griglione-records.sqlite";
     // The help page and its pictures, served as they are; none when empty.
     std::filesystem::path pages;
+    // SLESSICO.1 to SLESSICO.3, the words a challenge is checked against.
+    std::filesystem::path dictionaries = "/usr/share/griglione-records";
     // Records stored from one client in a minute (0: no limit); refused requests have an
     // allowance of their own, so that bad ones cannot use up the good ones.
     int submissionsPerMinute = 20;
@@ -29,8 +31,8 @@ struct ServiceConfig {
 std::string usage();
 
 // Lines "name = value"; blank lines and lines starting with "#" are skipped. Names: address,
-// port, database, pages, submissions-per-minute, refusals-per-minute, threads, connections,
-// connections-per-address, trusted-proxy. Returns what is wrong, or "".
+// port, database, pages, dictionaries, submissions-per-minute, refusals-per-minute, threads,
+// connections, connections-per-address, trusted-proxy. Returns what is wrong, or "".
 std::string readConfig(std::istream& in, ServiceConfig& config);
 
 // "--name value" or "--name=value" with the same names, "--config FILE" read at that point, and

@@ -13,6 +13,10 @@ install(FILES ${records_dir}/griglione-records.nginx DESTINATION /etc/nginx/site
 install(FILES ${PROJECT_SOURCE_DIR}/data/GRIGLIONE.htm ${PROJECT_SOURCE_DIR}/data/aiuto.css
     ${PROJECT_SOURCE_DIR}/data/griglione.gif
     DESTINATION share/griglione-records COMPONENT records)
+# The main dictionaries the challenges are checked against: carried, so that the service does not
+# pull in the game and its desktop libraries.
+install(FILES ${PROJECT_SOURCE_DIR}/data/SLESSICO.1 ${PROJECT_SOURCE_DIR}/data/SLESSICO.2
+    ${PROJECT_SOURCE_DIR}/data/SLESSICO.3 DESTINATION share/griglione-records COMPONENT records)
 file(GLOB help_pictures ${PROJECT_SOURCE_DIR}/data/aiuto-*.png)
 install(FILES ${help_pictures} DESTINATION share/griglione-records COMPONENT records)
 install(FILES ${CMAKE_CURRENT_SOURCE_DIR}/copyright DESTINATION ${records_doc} COMPONENT records)
@@ -41,7 +45,9 @@ set(CPACK_DEBIAN_RECORDS_DESCRIPTION "world records service of the word game Il 
 Receives the records that the game Il Griglione submits from its record
 table, checks them and keeps them in an SQLite database, and serves the world
 table (the best 50 of each language and match length) as Italian web pages
-and as JSON, with the game's home page and help. Runs as a systemd service
+and as JSON, with the game's home page and help. Challenges on a shared board
+or the board of the day are checked word by word against the board and the
+game's dictionaries, which the package carries. Runs as a systemd service
 under its own system user; an nginx site for a TLS front is included.")
 set(CPACK_DEBIAN_RECORDS_PACKAGE_SECTION web)
 set(CPACK_DEBIAN_RECORDS_PACKAGE_RECOMMENDS "")

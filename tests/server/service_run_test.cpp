@@ -55,10 +55,11 @@ struct RunningService {
         pid = spawnService(args, out);
         FILE* stream = fdopen(out, "r");
         char line[512] = {};
-        if (fgets(line, sizeof line, stream)) {
+        // Warnings (a missing dictionary) may come before the line that names the port.
+        for (int lines = 0; port == 0 && lines < 10 && fgets(line, sizeof line, stream); ++lines) {
             const std::string text = line;
-            const std::size_t colon = text.find("127.0.0.1:");
-            if (colon != std::string::npos) port = std::stoi(text.substr(colon + 10));
+            const std::size_t colon = text.find("in ascolto su http://127.0.0.1:");
+            if (colon != std::string::npos) port = std::stoi(text.substr(colon + 31));
         }
         // The request lines keep coming: they are read away so the program never blocks.
         std::thread([stream] {
