@@ -103,7 +103,23 @@ morphit() { # OUT PACKAGE:FILE...
         process.stdout.write([...out].join('\\n') + '\\n');" "$@" | LC_ALL=C sort -u >"$out"
 }
 morphit "$work/morphit-names.txt" italian-words-dict:words italian-adjectives-dict:adjectives
-morphit "$work/morphit-verbs.txt" italian-verbs-dict:verbs
+# The verbs: each infinitive and the forms of its paradigm. Where the paradigm mixes a strong
+# past with regular forms (crebbe beside crescei, difesi beside difendette), the regular ones
+# are wrong: the first and third persons singular and the third plural go together.
+node -e "
+    const fs = require('node:fs');
+    const verbs = JSON.parse(fs.readFileSync('$work/italian-verbs-dict/package/dist/verbs.json'));
+    const regular = { S1: /(ai|ei|etti|ii)\$/, S3: /(ò|é|è|ette|ì)\$/, P3: /(arono|erono|ettero|irono)\$/ };
+    const out = new Set();
+    const walk = (v) => typeof v === 'string' ? out.add(v) : Object.values(v ?? {}).forEach(walk);
+    for (const [verb, paradigm] of Object.entries(verbs)) {
+        out.add(verb);
+        const past = paradigm?.ind?.past ?? {};
+        const strong = Object.keys(regular).some((k) => past[k] && !regular[k].test(past[k]));
+        if (strong) for (const k of Object.keys(regular)) if (regular[k].test(past[k])) delete past[k];
+        walk(paradigm);
+    }
+    process.stdout.write([...out].join('\n') + '\n');" | LC_ALL=C sort -u >"$work/morphit-verbs.txt"
 LC_ALL=C sort -u "$work/morphit-names.txt" "$work/morphit-verbs.txt" >"$work/morphit.txt"
 # Names: every word of a municipality's name, and the hunspell-it stems whose flags give no
 # form but an elided article (l'Aranda, d'Orgosolo) or none at all; unless Morph-it lists the

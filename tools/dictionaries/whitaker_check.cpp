@@ -105,8 +105,12 @@ std::string_view firstSense(std::string_view meaning) {
 bool takesNoObject(const std::vector<std::string_view>& entry, std::string_view meaning) {
     if (has(entry, "INTRANS") || has(entry, "DAT") || has(entry, "GEN") || has(entry, "ABL"))
         return true;
+    for (const char* mark : {"(with DAT", "(w/DAT", "with dat"})
+        if (meaning.find(mark) != std::string_view::npos) return true;
+    // The genitive or the ablative only when the first sense takes it (egeo, need w/GEN/ABL):
+    // impleo fills something (w/ABL) in a later sense.
     const std::string_view sense = firstSense(meaning);
-    for (const char* mark : {"(with DAT", "(w/DAT", "(w/GEN", "(w/ABL", "with dat"})
+    for (const char* mark : {"(w/GEN", "(w/ABL"})
         if (sense.find(mark) != std::string_view::npos) return true;
     static const char* const motions[] = {
         "be ",  "come", "go",    "fly", "run",   "walk", "sleep",  "die",   "live",   "arrive",
