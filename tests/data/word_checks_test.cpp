@@ -5,11 +5,15 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
 namespace griglione {
 namespace {
 
+#define DEP "hortor, hortari, hortatus sum  V (1st) DEP   [XXXBX]\nencourage;\n"
+
 TEST(WhitakerCheck, JudgesEachAnalysisByEntryAgeInflectionAndMeaning) {
-    const WhitakerRules rules{{"pathicus"}, {"corvus"}};
+    const WhitakerRules rules{{"pathicus"}, {"corvus"}, {"Deus"}};
     const std::pair<const char*, LatinVerdict> cases[] = {
         {"\nten.ete   V  2 1 PRES ACTIVE  IMP 2 P\nteneo, tenere, tenui, tentus  V (2nd)   "
          "[XXXAX]\n"
@@ -62,9 +66,74 @@ TEST(WhitakerCheck, JudgesEachAnalysisByEntryAgeInflectionAndMeaning) {
         {"\nque  TACKON\n-que = and;\nuter  ADJ  1 4 NOM S M POS\nuter, utra, utrum  ADJ  "
          "[XXXAO]\nwhich (of two); (w/que) each/either (of two);\n",
          LatinVerdict::Classical},
+        // A deponent has passive shapes only (WORDS leaves their voice blank); a semi-deponent
+        // no passive at all.
+        {"\nhort.at  V  1 1 PRES  IND 3 S\n" DEP, LatinVerdict::NotClassical},
+        {"\nhort.atur  V  1 1 PRES  IND 3 S\n" DEP, LatinVerdict::Classical},
+        {"\nhort.ari  V  1 1 PRES  INF 0 X\n" DEP, LatinVerdict::Classical},
+        {"\nsequ.endi  VPAR  3 1 GEN S N FUT  PPL  Late\nsequor, sequi  V (3rd) DEP   [XXXAO]\n"
+         "follow;\n",
+         LatinVerdict::Classical},
+        {"\nmir.or  V  1 1 PRES PASSIVE IND 1 S\nmiror, mirari  V (1st) DEP   [XXXBO]\n"
+         "be amazed;\n",
+         LatinVerdict::Classical},
+        {"\naud.ebatur  V  2 1 IMPF PASSIVE IND 3 S\naudeo, audere  V (2nd) SEMIDEP   [XXXAO]\n"
+         "dare;\n",
+         LatinVerdict::NotClassical},
+        // The archaic gerundive in -undus and infinitive in -ier; an early entry; a rare one.
+        {"\nabduc.unda  VPAR  3 1 NOM S F FUT  PASSIVE PPL  Early\nabduco, abducere  V (3rd) "
+         "TRANS   [XXXAO]\n",
+         LatinVerdict::NotClassical},
+        {"\nrefug.ier  V  3 1 PRES PASSIVE INF 0 X  Early\nrefugio, refugere  V (3rd)   [XXXBX]\n",
+         LatinVerdict::NotClassical},
+        {"\ncar.emus  V  2 1 PRES ACTIVE IND 1 P\ncareor, careri  V (2nd) DEP   [BXXAS]  Early\n",
+         LatinVerdict::NotClassical},
+        {"\ncar.et  V  3 1 PRES ACTIVE IND 3 S\ncaro, carere, -, -  V (3rd) TRANS   [XAXEO]\n",
+         LatinVerdict::NotClassical},
+        // No object: no supine, a motion, a meaning shared with the entry above.
+        {"\npat.entur  V  2 1 PRES PASSIVE IND 3 P\npateo, patere, patui, -  V (2nd)   [XXXAX]\n"
+         "stand open, be open;\n",
+         LatinVerdict::NotClassical},
+        {"\nveni.or  V  4 1 PRES PASSIVE IND 1 S\nvenio, venire, veni, ventus  V (4th)   "
+         "[XXXAX]\ncome;\n",
+         LatinVerdict::NotClassical},
+        {"\nven.itur  V  4 1 PRES PASSIVE IND 3 S\nvenio, venire, veni, ventus  V (4th)   "
+         "[XXXAX]\ncome;\n",
+         LatinVerdict::Classical},
+        {"\ncar.emur  V  2 1 PRES PASSIVE IND 1 P\ncareo, carere, carui, caritus  V (2nd)   "
+         "[XXXAO]\ncareor, careri  V (2nd) DEP   [BXXAS]  Early\nbe without;\n",
+         LatinVerdict::NotClassical},
+        // The future imperative of a rare verb; idem's -dem; Deus, a god.
+        {"\nlic.etote  V  2 1 FUT  ACTIVE  IMP 2 P\nliceo, licere  V (2nd) TRANS   [XXXDX]\n",
+         LatinVerdict::NotClassical},
+        {"\nam.atote  V  1 1 FUT  ACTIVE  IMP 2 P\namo, amare  V (1st)   [XXXAO]\nlove;\n",
+         LatinVerdict::Classical},
+        {"\ndem  TACKON\nTACKON w/i-ea-id   idem => same;\ne.ius  PRON  4 2 GEN S X\nidem, "
+         "eadem, idem  PRON   [XXXAX]\n(w/-dem ONLY, idem, eadem, idem) same;\n",
+         LatinVerdict::Classical},
+        {"\nde.o  N  2 1 DAT S M\nDeus, Dei  N (2nd) M   [XEXAO]\nGod; god;\n",
+         LatinVerdict::Classical},
     };
     for (const auto& [block, verdict] : cases)
         EXPECT_EQ(judgeWhitakerBlock(block, rules), verdict) << block;
+    EXPECT_EQ(judgeWhitakerBlock("\nde.o  N  2 1 DAT S M\nDeus, Dei  N (2nd) M   [XEXAO]\n", {}),
+              LatinVerdict::NotClassical);
+}
+
+// The use of a Latin form: Collatinus's count of its headword, WORDS's frequency code as a
+// floor and tie-break, its everyday forms before the rare ones.
+TEST(WhitakerCheck, RanksAFormByItsLemmaCountFrequencyAndKindOfForm) {
+    const std::map<std::string, long> counts = {{"AMO", 809}, {"PARO", 1}, {"UOLO", 50}};
+    const std::pair<const char*, long> cases[] = {
+        {"\nam.at  V  1 1 PRES ACTIVE IND 3 S\namo, amare  V (1st)   [XXXAO]\nlove;\n", 80'951},
+        {"\nam.averit  V  1 1 FUTP ACTIVE IND 3 S\namo, amare  V (1st)   [XXXAO]\nlove;\n", 80'950},
+        {"\npar.at  V  1 1 PRES ACTIVE IND 3 S\nparo, parare  V (1st)   [XXXAO]\nprepare;\n",
+         80'051}, // Collatinus counts 1: the floor of frequency A
+        {"\nvol.at  V  1 1 PRES ACTIVE IND 3 S\nvolo, volare  V (1st)   [XXXDX]\nfly;\n",
+         5'021}, // written uolo in Collatinus
+        {"\nferram   ========   UNKNOWN\n", 0}};
+    for (const auto& [block, use] : cases)
+        EXPECT_EQ(latinUse(block, {}, counts), use) << block;
 }
 
 TEST(WhitakerCheck, SplitsTheOutputIntoOneBlockPerWordOrNone) {
