@@ -354,9 +354,9 @@ TEST(WordFilter, AdmitsFoldsAndRefusesSourceWords) {
         EXPECT_FALSE(admitWord(word, it)) << word;
     // Latin in all 26 letters and in the school spelling, V for the consonant and U for the vowel;
     // both where a letter after a consonant and before a vowel can be either.
-    for (const char* word : {"yoga", "amavit", "suavis", "silva", "silua"})
+    for (const char* word : {"yoga", "amavit", "suavis", "silva", "silua", "divus", "vulgus"})
         EXPECT_TRUE(admitWord(word, la)) << word;
-    for (const char* word : {"amauit", "uirum", "virvm", "amatv", "qvae", "iuuenis"})
+    for (const char* word : {"amauit", "uirum", "virvm", "amatv", "qvae", "iuuenis", "ivuisset"})
         EXPECT_FALSE(admitWord(word, la)) << word;
 }
 

@@ -11,9 +11,14 @@ namespace griglione {
 namespace {
 
 #define DEP "hortor, hortari, hortatus sum  V (1st) DEP   [XXXBX]\nencourage;\n"
+#define SYNCOPE "\nSyncope   r => v.r\nSyncopated perfect often drops the 'v'\n"
 
 TEST(WhitakerCheck, JudgesEachAnalysisByEntryAgeInflectionAndMeaning) {
-    const WhitakerRules rules{{"pathicus"}, {"corvus"}, {"Deus"}};
+    const WhitakerRules rules{{"pathicus"},
+                              {"corvus"},
+                              {"Deus"},
+                              {"gnosco"},
+                              {{"ADORIO", 1}, {"ADORIOR", 63}, {"MEREO", 234}, {"MEREOR", 145}}};
     const std::pair<const char*, LatinVerdict> cases[] = {
         {"\nten.ete   V  2 1 PRES ACTIVE  IMP 2 P\nteneo, tenere, tenui, tentus  V (2nd)   "
          "[XXXAX]\n"
@@ -112,6 +117,40 @@ TEST(WhitakerCheck, JudgesEachAnalysisByEntryAgeInflectionAndMeaning) {
          "eadem, idem  PRON   [XXXAX]\n(w/-dem ONLY, idem, eadem, idem) same;\n",
          LatinVerdict::Classical},
         {"\nde.o  N  2 1 DAT S M\nDeus, Dei  N (2nd) M   [XEXAO]\nGod; god;\n",
+         LatinVerdict::Classical},
+        // WORDS's readings: a contracted perfect of a -vi perfect, not of a stem in v nor a
+        // future perfect; no spelling trick (co for con); no archaic spelling; no early and rare
+        // inflection (faxim), though an early one alone is classical (artubus).
+        {SYNCOPE "amav.isti  V  1 1 PERF ACTIVE IND 2 S\namo, amare, amavi, amatus  V (1st)   "
+                 "[XXXAO]\nlove;\n",
+         LatinVerdict::Classical},
+        {SYNCOPE "cav.erit  V  2 1 FUTP ACTIVE IND 3 S\ncaveo, cavere, cavi, cautus  V (2nd)   "
+                 "[XXXAO]\nbeware;\n",
+         LatinVerdict::NotClassical},
+        {SYNCOPE "calav.ero  V  1 1 FUTP ACTIVE IND 1 S\ncalo, calare, calavi, calatus  V (1st) "
+                 "  [XXXCO]\nannounce;\n",
+         LatinVerdict::NotClassical},
+        {"\nWord mod co/con\nAn initial 'co' may be rendered by 'con'\nconven.erunt  V  4 1 "
+         "PERF ACTIVE IND 3 P\nconvenio, convenire  V (4th)   [XXXAO]\nmeet;\n",
+         LatinVerdict::NotClassical},
+        {"\ngnosc.aris  V  3 1 PRES PASSIVE SUB 2 S\ngnosco, gnoscere  V (3rd) TRANS   "
+         "[XXXAO]\nget to know;\n",
+         LatinVerdict::NotClassical},
+        {"\nfax.itis  V  8 3 PERF ACTIVE  SUB 2 P  Early  infreq\nfacio, facere, additional, "
+         "forms  V   [XXXBX]\ndo, make;\n",
+         LatinVerdict::NotClassical},
+        {"\nart.ubus  N  4 1 DAT P M  Early\nartus, artus  N (4th) M   [XXXBO]\njoint;\n",
+         LatinVerdict::Classical},
+        // An active twin far rarer than its deponent: by WORDS's code (miro C, miror B), or by
+        // Collatinus (adorio 1, adorior 63); mereo (234) beside mereor (145) is a word.
+        {"\nmir.em  V  1 1 PRES ACTIVE SUB 1 S\nmiro, mirare  V (1st)   [XXXCO]\nmiror, mirari "
+         " V (1st) DEP   [XXXBO]\nbe amazed;\n",
+         LatinVerdict::NotClassical},
+        {"\nadori.unt  V  4 1 PRES ACTIVE IND 3 P\nadorio, adorire  V (4th) TRANS   [XWXBO]\n"
+         "adorior, adoriri  V (4th) DEP   [XWXBO]\nassail;\n",
+         LatinVerdict::NotClassical},
+        {"\nmer.et  V  2 1 PRES ACTIVE IND 3 S\nmereo, merere  V (2nd)   [XXXAO]\nmereor, "
+         "mereri  V (2nd) DEP   [XXXAO]\nearn;\n",
          LatinVerdict::Classical},
     };
     for (const auto& [block, verdict] : cases)

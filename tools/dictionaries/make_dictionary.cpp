@@ -52,7 +52,8 @@ int usage() {
         "    keeps the WORDS whose whitakers-words analysis is classical and decent;\n"
         "    RUNS is a folder of NAME.words (the words of a run) and NAME.out (its output);\n"
         "    LEMMAS has lines \"rude HEADWORD...\", \"decent HEADWORD...\" and\n"
-        "    \"common HEADWORD...\" (capitalised headwords that are common nouns too);\n"
+        "    \"common HEADWORD...\" (capitalised headwords that are common nouns too) and\n"
+        "    \"archaic HEADWORD...\" (archaic spellings WORDS does not mark);\n"
         "    writes to USE how much each kept word is used (Collatinus's LEMMES counts)\n"
         "  make_dictionary use-counts LANGUAGE FORMS_LEMMAS TOKEN_COUNTS HEADWORDS\n"
         "    prints \"WORD<TAB>USE\" for every word the lemma counts over a text give\n"
@@ -344,14 +345,16 @@ int latinCheck(const std::string& wordFile, const std::string& runsFolder,
     std::vector<std::string> words;
     if (!forEachLine(wordFile, [&](std::string_view w) { words.emplace_back(w); })) return 1;
     WhitakerRules rules;
+    rules.lemmaCounts = lemmaCounts;
     const bool lemmas = forEachLine(lemmaFile, [&](std::string_view line) {
         std::istringstream in{std::string(line.substr(0, line.find('#')))};
         std::string kind, lemma;
         in >> kind;
         while (in >> lemma)
-            (kind == "rude"     ? rules.rudeLemmas
-             : kind == "common" ? rules.commonNames
-                                : rules.decentLemmas)
+            (kind == "rude"      ? rules.rudeLemmas
+             : kind == "common"  ? rules.commonNames
+             : kind == "archaic" ? rules.archaicLemmas
+                                 : rules.decentLemmas)
                 .insert(lemma);
     });
     if (!lemmas) return 1;

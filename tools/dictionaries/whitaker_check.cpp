@@ -43,6 +43,8 @@ struct Analysis {
     bool tackon = false;    // after a TACKON line: the form carries an enclitic or a pronoun ending
     bool packon = false;    // the TACKON completes a pronoun (quis + que: quisque)
     bool completes = false; // a TACKON of one word (i + dem: idem; eius + dem: eiusdem)
+    bool syncope = false;   // read as a contracted perfect (amasti for amavisti)
+    bool guessed = false;   // read after one of WORDS's spelling tricks (co for con)
 };
 
 bool lateInflection(const std::vector<std::string_view>& t) {
@@ -51,7 +53,10 @@ bool lateInflection(const std::vector<std::string_view>& t) {
     // twins in -undus (abducunda) and the passive infinitive in -ier (refugier) are archaic.
     // A deponent's gerundive has no voice on its line (sequ.endi VPAR ... FUT PPL).
     const bool gerundive = t[1] == "VPAR" && has(t, "FUT") && !has(t, "ACTIVE");
-    if (has(t, "Early") && (gerundive || has(t, "INF"))) return true;
+    // Other early inflections are classical (ingeni, artubus, doceare), unless rare too (faxim).
+    if (has(t, "Early") && (gerundive || has(t, "INF") || has(t, "infreq") || has(t, "uncommon") ||
+                            has(t, "rare") || has(t, "veryrare")))
+        return true;
     if (gerundive) return false;
     return has(t, "Late") || has(t, "Later") || has(t, "Medieval") || has(t, "Scholar") ||
            has(t, "Modern");
@@ -144,6 +149,7 @@ bool acceptable(const Analysis& a, const WhitakerRules& rules) {
     // The inscription spelling of carus; a stem that only stands in compounds (-plus: triplus).
     if (words[0].find('k') != std::string_view::npos) return false;
     if (a.meaning.find("(only w/") != std::string::npos) return false;
+    if (a.guessed || rules.archaicLemmas.contains(headword(a.entry))) return false;
     if (a.tackon) {
         if (a.packon) return has(words, "PACK");
         if (a.completes) return a.meaning.find("(w/-") != std::string::npos;
@@ -157,9 +163,15 @@ bool acceptable(const Analysis& a, const WhitakerRules& rules) {
     const bool intransitive = takesNoObject(words, a.meaning);
     // The future imperative (amato, amatote) is a form of laws and formulae: only common verbs.
     const bool common = std::string_view("ABC").find(codes[3]) != std::string_view::npos;
+    // A contracted perfect of a -vi perfect (amasti, amarunt, amaram, amasse, amassem), not of
+    // a stem that ends in v (caveo: carit), nor a future perfect or perfect subjunctive (calaro).
+    if (a.syncope && (words.empty() || words[0].ends_with("vo,") || words[0].ends_with("veo,") ||
+                      words[0].ends_with("vio,")))
+        return false;
     return std::any_of(a.inflections.begin(), a.inflections.end(), [&](const auto& line) {
         if (lateInflection(line)) return false;
         const auto t = withVoice(line);
+        if (a.syncope && (has(t, "FUTP") || (has(t, "PERF") && has(t, "SUB")))) return false;
         // The gerundive of a verb without object is impersonal, neuter only (saeviendum).
         if (intransitive && !deponent && t[1] == "VPAR" && has(t, "FUT") && has(t, "PASSIVE"))
             return t.size() > 6 && t[6] == "N";
@@ -181,7 +193,8 @@ std::vector<Analysis> analysesOf(std::string_view block) {
     std::vector<Analysis> analyses;
     std::vector<std::vector<std::string_view>> inflections;
     bool lastWasInflection = false, tackon = false, packon = false, afterTackon = false,
-         completes = false, lastWasEntry = false;
+         completes = false, lastWasEntry = false, syncope = false, guessed = false,
+         explained = false;
     std::size_t firstWithoutMeaning = 0;
     for (std::size_t start = 0; start < block.size();) {
         const std::size_t end = std::min(block.find('\n', start), block.size());
@@ -194,6 +207,16 @@ std::vector<Analysis> analysesOf(std::string_view block) {
             lastWasInflection = false;
             continue;
         }
+        // "Syncope r => v.r" and "Word mod co/con", each with a line that explains it.
+        if (t[0] == "Syncope" || line.starts_with("Word mod")) {
+            (t[0] == "Syncope" ? syncope : guessed) = true;
+            explained = true;
+            continue;
+        }
+        if (explained) {
+            explained = false;
+            continue;
+        }
         if (afterTackon) { // the line that says what the TACKON is
             packon = line.starts_with("PACKON");
             completes = line.starts_with("TACKON w/");
@@ -204,7 +227,9 @@ std::vector<Analysis> analysesOf(std::string_view block) {
             // Entries listed one after the other share the meaning that follows them (careo,
             // careor: "be without").
             if (!lastWasEntry) firstWithoutMeaning = analyses.size();
-            analyses.push_back({inflections, line, "", tackon, packon, completes});
+            analyses.push_back(
+                {inflections, line, "", tackon, packon, completes, syncope, guessed});
+            syncope = guessed = false;
             lastWasInflection = false;
             lastWasEntry = true;
             continue;
@@ -220,6 +245,41 @@ std::vector<Analysis> analysesOf(std::string_view block) {
         lastWasEntry = false;
     }
     return analyses;
+}
+
+// Collatinus's count of an entry's headword; a headword WORDS writes with V or J is looked up
+// with U and I too (uoluntas).
+long lemmaCount(std::string_view entry, const std::map<std::string, long>& counts) {
+    std::string lemma;
+    for (const char c : headword(entry))
+        lemma += static_cast<char>(c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c);
+    auto found = counts.find(lemma);
+    if (found == counts.end()) {
+        std::replace(lemma.begin(), lemma.end(), 'V', 'U');
+        std::replace(lemma.begin(), lemma.end(), 'J', 'I');
+        found = counts.find(lemma);
+    }
+    return found == counts.end() ? 0 : found->second;
+}
+
+// The active entries that WORDS lists beside a deponent of the same meaning and that are far
+// rarer (miro beside miror, adorio beside adorior: rarer by WORDS's frequency code, or met less
+// than a tenth as often in Collatinus's counts): their active endings (mirem, adoriunt) are no
+// classical forms. Mereo beside mereor stays.
+std::vector<bool> activeTwins(const std::vector<Analysis>& analyses, const WhitakerRules& rules) {
+    std::vector<bool> twin(analyses.size(), false);
+    for (std::size_t i = 0; i < analyses.size(); ++i)
+        for (const Analysis& other : analyses) {
+            const Analysis& a = analyses[i];
+            if (&other == &a || !has(tokens(other.entry), "DEP") || has(tokens(a.entry), "DEP") ||
+                other.meaning.empty() || other.meaning != a.meaning)
+                continue;
+            const std::string codes = dictionaryCodes(a.entry), its = dictionaryCodes(other.entry);
+            twin[i] = twin[i] || codes.size() != 5 || its.size() != 5 || codes[3] > its[3] ||
+                      lemmaCount(a.entry, rules.lemmaCounts) * 10 <
+                          lemmaCount(other.entry, rules.lemmaCounts);
+        }
+    return twin;
 }
 
 } // namespace
@@ -256,6 +316,7 @@ LatinVerdict judgeWhitakerBlock(std::string_view block, const WhitakerRules& rul
         block.find('\n') >= block.find("UNKNOWN"))
         return LatinVerdict::Unknown;
     const std::vector<Analysis> analyses = analysesOf(block);
+    const std::vector<bool> twins = activeTwins(analyses, rules);
     bool classical = false;
     for (const Analysis& a : analyses) {
         const std::string lemma = headword(a.entry);
@@ -264,7 +325,7 @@ LatinVerdict judgeWhitakerBlock(std::string_view block, const WhitakerRules& rul
                           a.meaning.find("rude)") != std::string::npos;
         if (rules.rudeLemmas.contains(lemma) || (rude && !rules.decentLemmas.contains(lemma)))
             return LatinVerdict::Rude;
-        classical = classical || acceptable(a, rules);
+        classical = classical || (!twins[&a - analyses.data()] && acceptable(a, rules));
     }
     return classical ? LatinVerdict::Classical : LatinVerdict::NotClassical;
 }
@@ -272,19 +333,11 @@ LatinVerdict judgeWhitakerBlock(std::string_view block, const WhitakerRules& rul
 long latinUse(std::string_view block, const WhitakerRules& rules,
               const std::map<std::string, long>& lemmaCounts) {
     long best = 0;
-    for (const Analysis& a : analysesOf(block)) {
-        if (!acceptable(a, rules)) continue;
-        std::string lemma;
-        for (const char c : headword(a.entry))
-            lemma += static_cast<char>(c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c);
-        // Collatinus writes U for V and I for J in some headwords (uoluntas).
-        auto found = lemmaCounts.find(lemma);
-        if (found == lemmaCounts.end()) {
-            std::replace(lemma.begin(), lemma.end(), 'V', 'U');
-            std::replace(lemma.begin(), lemma.end(), 'J', 'I');
-            found = lemmaCounts.find(lemma);
-        }
-        const long count = found == lemmaCounts.end() ? 0 : found->second;
+    const std::vector<Analysis> analyses = analysesOf(block);
+    const std::vector<bool> twins = activeTwins(analyses, rules);
+    for (const Analysis& a : analyses) {
+        if (twins[&a - analyses.data()] || !acceptable(a, rules)) continue;
+        const long count = lemmaCount(a.entry, lemmaCounts);
         const std::string codes = dictionaryCodes(a.entry);
         const long frequency = 'F' - codes[3]; // A 5 ... E 1
         // Collatinus's counts miss some common verbs (paro, to prepare: 1): WORDS's frequency

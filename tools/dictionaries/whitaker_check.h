@@ -21,6 +21,11 @@ struct WhitakerRules {
     std::set<std::string> decentLemmas;
     // Capitalised headwords that are common nouns too (Deus: god, gods).
     std::set<std::string> commonNames;
+    // Headwords that are archaic spellings WORDS does not mark (gnosco for nosco).
+    std::set<std::string> archaicLemmas;
+    // Collatinus's corpus counts of the lemmas, in capitals: which of a deponent and its active
+    // twin is the real word.
+    std::map<std::string, long> lemmaCounts;
 };
 
 // The parameter answers that set WORDS up for checking: every analysis shown untrimmed, no
