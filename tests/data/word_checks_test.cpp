@@ -85,6 +85,9 @@ TEST(WhitakerCheck, JudgesEachAnalysisByEntryAgeInflectionAndMeaning) {
         {"\naud.ebatur  V  2 1 IMPF PASSIVE IND 3 S\naudeo, audere  V (2nd) SEMIDEP   [XXXAO]\n"
          "dare;\n",
          LatinVerdict::NotClassical},
+        {"\naus.isset  V  2 1 PLUP ACTIVE SUB 3 S\naudeo, audere  V (2nd) SEMIDEP   [XXXAO]\n"
+         "dare;\n",
+         LatinVerdict::NotClassical},
         // The archaic gerundive in -undus and infinitive in -ier; an early entry; a rare one.
         {"\nabduc.unda  VPAR  3 1 NOM S F FUT  PASSIVE PPL  Early\nabduco, abducere  V (3rd) "
          "TRANS   [XXXAO]\n",

@@ -177,8 +177,11 @@ bool acceptable(const Analysis& a, const WhitakerRules& rules) {
             return t.size() > 6 && t[6] == "N";
         if (t[1] != "V" || t.size() < 7) return true;
         if (deponent && !passiveShape(t)) return false;
-        // Audeo, gaudeo, fido: active in the present system, no passive at all.
-        if (semiDeponent && has(t, "PASSIVE")) return false;
+        // Audeo, gaudeo, fido: active in the present system, no passive at all, and a perfect
+        // of passive shape only (ausus sum, not ausisset).
+        if (semiDeponent &&
+            (has(t, "PASSIVE") || has(t, "PERF") || has(t, "PLUP") || has(t, "FUTP")))
+            return false;
         // A deponent's passive shapes are its active forms (miror, morimur).
         const bool passive = has(t, "PASSIVE") && !deponent;
         if (t[6] == "INF") return !(intransitive && passive);
