@@ -133,9 +133,10 @@ TEST(WhitakerCheck, JudgesEachAnalysisByEntryAgeInflectionAndMeaning) {
         {SYNCOPE "calav.ero  V  1 1 FUTP ACTIVE IND 1 S\ncalo, calare, calavi, calatus  V (1st) "
                  "  [XXXCO]\nannounce;\n",
          LatinVerdict::NotClassical},
-        {"\nWord mod co/con\nAn initial 'co' may be rendered by 'con'\nconven.erunt  V  4 1 "
-         "PERF ACTIVE IND 3 P\nconvenio, convenire  V (4th)   [XXXAO]\nmeet;\n",
-         LatinVerdict::NotClassical},
+        {"\nWord mod co/con\nAn initial 'co' may be rendered by 'con'\nconven.it  V  4 1 "
+         "PRES ACTIVE IND 3 S\nconvenio, convenire  V (4th)   [XXXAO]\nmeet;\nconvenit, "
+         "convenire  V (4th) IMPERS   [XXXCO]\nit agrees;\n",
+         LatinVerdict::NotClassical}, // covenit: the note holds for both entries
         {"\ngnosc.aris  V  3 1 PRES PASSIVE SUB 2 S\ngnosco, gnoscere  V (3rd) TRANS   "
          "[XXXAO]\nget to know;\n",
          LatinVerdict::NotClassical},

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <regex>
+#include <utility>
 
 namespace griglione {
 namespace {
@@ -196,8 +197,10 @@ std::vector<Analysis> analysesOf(std::string_view block) {
     std::vector<Analysis> analyses;
     std::vector<std::vector<std::string_view>> inflections;
     bool lastWasInflection = false, tackon = false, packon = false, afterTackon = false,
-         completes = false, lastWasEntry = false, syncope = false, guessed = false,
-         explained = false;
+         completes = false, lastWasEntry = false;
+    // A reading note ("Syncope r => v.r", "Word mod co/con") holds for the group of inflections
+    // and entries that follows it.
+    bool syncope = false, guessed = false, groupSyncope = false, groupGuessed = false;
     std::size_t firstWithoutMeaning = 0;
     for (std::size_t start = 0; start < block.size();) {
         const std::size_t end = std::min(block.find('\n', start), block.size());
@@ -210,16 +213,18 @@ std::vector<Analysis> analysesOf(std::string_view block) {
             lastWasInflection = false;
             continue;
         }
-        // "Syncope r => v.r" and "Word mod co/con", each with a line that explains it.
-        if (t[0] == "Syncope" || line.starts_with("Word mod")) {
-            (t[0] == "Syncope" ? syncope : guessed) = true;
-            explained = true;
+        // The notes and the lines that explain them ("Syncopated perfect often drops the 'v'",
+        // "An initial 'co' may be rendered by 'con'"). Of the contractions only those of a -vi
+        // perfect count (amarunt, amasti, audierat, audisti), not dixti for dixisti.
+        if (t[0] == "Syncope") {
+            (line.find("s/x") == std::string_view::npos ? syncope : guessed) = true;
             continue;
         }
-        if (explained) {
-            explained = false;
+        if (line.starts_with("Word mod")) {
+            guessed = true;
             continue;
         }
+        if (line.starts_with("Syncopated") || line.starts_with("An initial")) continue;
         if (afterTackon) { // the line that says what the TACKON is
             packon = line.starts_with("PACKON");
             completes = line.starts_with("TACKON w/");
@@ -231,13 +236,16 @@ std::vector<Analysis> analysesOf(std::string_view block) {
             // careor: "be without").
             if (!lastWasEntry) firstWithoutMeaning = analyses.size();
             analyses.push_back(
-                {inflections, line, "", tackon, packon, completes, syncope, guessed});
-            syncope = guessed = false;
+                {inflections, line, "", tackon, packon, completes, groupSyncope, groupGuessed});
             lastWasInflection = false;
             lastWasEntry = true;
             continue;
-        } else if (t.size() >= 2 && kPartsOfSpeech.contains(t[1]) && t[0] != "Syncope") {
-            if (!lastWasInflection) inflections.clear();
+        } else if (t.size() >= 2 && kPartsOfSpeech.contains(t[1])) {
+            if (!lastWasInflection) {
+                inflections.clear();
+                groupSyncope = std::exchange(syncope, false);
+                groupGuessed = std::exchange(guessed, false);
+            }
             inflections.push_back(t);
             lastWasInflection = true;
         } else if (!analyses.empty()) {
