@@ -130,6 +130,9 @@ TEST(WhitakerCheck, JudgesEachAnalysisByEntryAgeInflectionAndMeaning) {
         {SYNCOPE "cav.erit  V  2 1 FUTP ACTIVE IND 3 S\ncaveo, cavere, cavi, cautus  V (2nd)   "
                  "[XXXAO]\nbeware;\n",
          LatinVerdict::NotClassical},
+        {SYNCOPE "lev.istis  V  3 1 PERF ACTIVE IND 2 P\nlino, linere, levi, litus  V (3rd) TRANS "
+                 "  [XXXCO]\nsmear;\n",
+         LatinVerdict::NotClassical},
         {SYNCOPE "calav.ero  V  1 1 FUTP ACTIVE IND 1 S\ncalo, calare, calavi, calatus  V (1st) "
                  "  [XXXCO]\nannounce;\n",
          LatinVerdict::NotClassical},

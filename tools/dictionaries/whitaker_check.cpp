@@ -137,6 +137,24 @@ bool takesNoObject(const std::vector<std::string_view>& entry, std::string_view 
     return false;
 }
 
+// Whether the entry's perfect is its present stem, a vowel and -vi ("amo, amare, amavi": am +
+// a + vi; "audio, audire, audivi"), the perfect whose v a contraction drops.
+bool viPerfect(const std::vector<std::string_view>& entry) {
+    if (entry.size() < 3) return false;
+    std::string_view present = entry[0], perfect = entry[2];
+    for (std::string_view* part : {&present, &perfect})
+        if (part->ends_with(",")) part->remove_suffix(1);
+    for (const std::string_view ending : {"eo", "io", "o"})
+        if (present.ends_with(ending)) {
+            present.remove_suffix(ending.size());
+            break;
+        }
+    return perfect.size() == present.size() + 3 && perfect.starts_with(present) &&
+           perfect.ends_with("vi") &&
+           std::string_view("aeio").find(perfect[present.size()]) != std::string_view::npos &&
+           !present.ends_with("v");
+}
+
 bool acceptable(const Analysis& a, const WhitakerRules& rules) {
     const std::string codes = dictionaryCodes(a.entry);
     const auto words = tokens(a.entry);
@@ -165,10 +183,9 @@ bool acceptable(const Analysis& a, const WhitakerRules& rules) {
     // The future imperative (amato, amatote) is a form of laws and formulae: only common verbs.
     const bool common = std::string_view("ABC").find(codes[3]) != std::string_view::npos;
     // A contracted perfect of a -vi perfect (amasti, amarunt, amaram, amasse, amassem), not of
-    // a stem that ends in v (caveo: carit), nor a future perfect or perfect subjunctive (calaro).
-    if (a.syncope && (words.empty() || words[0].ends_with("vo,") || words[0].ends_with("veo,") ||
-                      words[0].ends_with("vio,")))
-        return false;
+    // a stem that ends in v (caveo: carit) or a perfect of another stem (lino, levi: lestis),
+    // nor a future perfect or perfect subjunctive (calaro).
+    if (a.syncope && !viPerfect(words)) return false;
     return std::any_of(a.inflections.begin(), a.inflections.end(), [&](const auto& line) {
         if (lateInflection(line)) return false;
         const auto t = withVoice(line);
