@@ -307,7 +307,7 @@ const char* const lemmes =
     "ā=ā,ăb,ābs|inv|||prép. + abl.|5874\nĂbās|ciuis|Ăbānt||antis, m.|5\n"
     "broken line\nvĭr|puer|||uiri, m.|2702\n";
 
-TEST(StemRanking, CountsEveryFormAStemOfTheLemmaMayTakeAndSplitsTheStemsByCount) {
+TEST(StemRanking, CountsEveryFormAStemOfTheLemmaMayTake) {
     const auto counts = latinLemmaCounts(lemmes);
     const std::pair<const char*, long> cases[] = {
         {"AMO", 809},    {"LEGO", 619},      // the larger count of two homographs
@@ -318,28 +318,17 @@ TEST(StemRanking, CountsEveryFormAStemOfTheLemmaMayTakeAndSplitsTheStemsByCount)
         EXPECT_EQ(counts.contains(form) ? counts.at(form) : -1, count) << form;
     for (const char* form : {"ABAS", "LEGO2", "BROKEN LINE"}) // a proper name, a homograph number
         EXPECT_FALSE(counts.contains(form)) << form;
-    // Capitalised names, abbreviations and comments give no admissible word: left out.
-    const std::string dic =
-        "9\namo/APS\nlegionis/d\nlegi/P\nlego/APS\nrarissimus/abc\nRoma/a\nA.\n# comment\nvir\r\n";
-    EXPECT_EQ(splitStemsByCount(dic, counts, {1000, 700}),
-              (std::vector<std::string>{"2\nlegionis/d\nvir\n", "1\namo/APS\n",
-                                        "3\nlegi/P\nlego/APS\nrarissimus/abc\n"}));
 }
 
-TEST(StemRanking, KeepsTheFirstSpellingOfTheLatinStemsAndCountsAListedWordOnce) {
+TEST(StemRanking, KeepsTheFirstSpellingOfTheLatinStems) {
     const std::string dic = "7\n# header\namo/APS\nZeus/q\n\nabacvs/b\nzythvm/c\nabauia/a\nuir/q\n";
     EXPECT_EQ(schoolSpellingStems(dic), "3\n# header\namo/APS\nZeus/q\n");
     EXPECT_EQ(schoolSpellingStems("2\nab\nzona\r\nAbas\n"), "2\nab\nzona\r\n");
     EXPECT_EQ(schoolSpellingStems(""), "0\n");
-    // A listed word counts once.
-    const auto counts = listedWordCounts("casa\nCittà\nperché\r\n\n");
-    EXPECT_EQ(counts, (std::map<std::string, long>{{"CASA", 1}, {"PERCHE", 1}}));
-    EXPECT_EQ(splitStemsByCount("3\ncasa/o\nlottizzare/A\nperché\n", counts, {1}),
-              (std::vector<std::string>{"2\ncasa/o\nperché\n", "1\nlottizzare/A\n"}));
 }
 
 // Which source words become dictionary words: folding, refusals, alphabets, Latin spelling, the
-// excluded words and their forms; and how the selection dedups, sorts, caps and samples.
+// excluded words and their forms.
 
 TEST(WordFilter, AdmitsFoldsAndRefusesSourceWords) {
     const Language it = Language::Italian, la = Language::Latin;

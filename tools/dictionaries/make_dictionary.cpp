@@ -1,6 +1,7 @@
-// The generator's compiled half: trims a Hunspell affix file before expansion, splits the Latin
-// stems by the corpus count of their lemma, and writes a dictionary file SLESSICO.<n> from
-// plain UTF-8 word lists with the game's own writer, leaving out the excluded words.
+// The generator's compiled half: trims a Hunspell affix file before expansion, judges the Latin
+// forms by WORDS's analyses, counts how much words are used, and writes a dictionary file
+// SLESSICO.<n> from plain UTF-8 word lists with the game's own writer, leaving out the excluded
+// words and, where a length is full, the least used.
 // make_dictionaries.sh drives it; run without arguments for the usage.
 #include "core/addresses.h"
 #include "core/atomic_file.h"
@@ -95,30 +96,6 @@ int trimAffixFile(const std::string& language, const std::string& in, const std:
     const AffixTrim trim = trimAffixes(*text, rules);
     if (!writeFileAtomically(out, trim.text)) return fail("cannot write " + out);
     std::printf("%s: %zu affix entries kept, %zu dropped\n", out.c_str(), trim.kept, trim.dropped);
-    return 0;
-}
-
-int splitStems(const std::string& kind, const std::string& source, const std::string& dic,
-               const std::string& prefix, const std::string& thresholdList) {
-    if (kind != "lemmes" && kind != "list") return usage();
-    std::vector<long> thresholds;
-    std::stringstream list(thresholdList);
-    std::string item;
-    while (std::getline(list, item, ','))
-        thresholds.push_back(std::stol(item));
-    const auto sourceText = readWholeFile(source);
-    if (!sourceText) return fail("cannot read " + source);
-    const auto dicText = readWholeFile(dic);
-    if (!dicText) return fail("cannot read " + dic);
-    const auto counts =
-        kind == "lemmes" ? latinLemmaCounts(*sourceText) : listedWordCounts(*sourceText);
-    const auto files = splitStemsByCount(*dicText, counts, thresholds);
-    for (std::size_t i = 0; i < files.size(); ++i) {
-        const std::string name = prefix + std::to_string(i + 1) + ".dic";
-        if (!writeFileAtomically(name, files[i])) return fail("cannot write " + name);
-        std::printf("%s: %s stems\n", name.c_str(),
-                    files[i].substr(0, files[i].find('\n')).c_str());
-    }
     return 0;
 }
 
@@ -466,8 +443,6 @@ int listWords(const std::string& name) {
 int main(int argc, char** argv) {
     if (argc == 5 && std::string(argv[1]) == "trim-affixes")
         return trimAffixFile(argv[2], argv[3], argv[4]);
-    if (argc == 7 && std::string(argv[1]) == "split-stems")
-        return splitStems(argv[2], argv[3], argv[4], argv[5], argv[6]);
     if (argc == 4 && std::string(argv[1]) == "school-stems") return schoolStems(argv[2], argv[3]);
     if (argc >= 6 && std::string(argv[1]) == "build") return buildDictionary(argc, argv);
     if (argc >= 4 && std::string(argv[1]) == "admitted") return admittedWords(argc, argv);
