@@ -108,6 +108,14 @@ TEST(WhitakerCheck, JudgesEachAnalysisByEntryAgeInflectionAndMeaning) {
         {"\nven.itur  V  4 1 PRES PASSIVE IND 3 S\nvenio, venire, veni, ventus  V (4th)   "
          "[XXXAX]\ncome;\n",
          LatinVerdict::Classical},
+        {"\nflu.itor  V  3 1 FUT  PASSIVE IMP 3 S\nfluo, fluere  V (3rd)   [XXXAX]\nflow;\n",
+         LatinVerdict::NotClassical},
+        {"\next.anda  VPAR  1 1 NOM P N FUT  PASSIVE PPL\nexto, extare, extiti, -  V (1st)   "
+         "[XXXDX]\nstand out;\n",
+         LatinVerdict::NotClassical},
+        {"\nquam  TACKON\nPACKON w/quis => any;\nqu.as  PRON  1 0 ACC P F\nqu  PACK   [XXXAX]\n"
+         "(w/-quam) any, anyone (no pl.);\n",
+         LatinVerdict::NotClassical},
         {"\ncar.emur  V  2 1 PRES PASSIVE IND 1 P\ncareo, carere, carui, caritus  V (2nd)   "
          "[XXXAO]\ncareor, careri  V (2nd) DEP   [BXXAS]  Early\nbe without;\n",
          LatinVerdict::NotClassical},

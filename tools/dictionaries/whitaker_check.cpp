@@ -118,9 +118,10 @@ bool takesNoObject(const std::vector<std::string_view>& entry, std::string_view 
     const std::string_view sense = firstSense(meaning);
     for (const char* mark : {"(w/GEN", "(w/ABL"})
         if (sense.find(mark) != std::string_view::npos) return true;
-    static const char* const motions[] = {
-        "be ",  "come", "go",    "fly", "run",   "walk", "sleep",  "die",   "live",   "arrive",
-        "fall", "flow", "stand", "sit", "shine", "swim", "wander", "hurry", "hasten", "lie "};
+    static const char* const motions[] = {"be ",    "come", "go",    "fly",    "run",    "walk",
+                                          "sleep",  "die",  "live",  "arrive", "fall",   "flow",
+                                          "stand",  "sit",  "shine", "swim",   "wander", "hurry",
+                                          "hasten", "lie ", "float", "resound"};
     for (const char* motion : motions) {
         const std::string_view m(motion);
         if (sense.starts_with(m) &&
@@ -170,7 +171,12 @@ bool acceptable(const Analysis& a, const WhitakerRules& rules) {
     if (a.meaning.find("(only w/") != std::string::npos) return false;
     if (a.guessed || rules.archaicLemmas.contains(headword(a.entry))) return false;
     if (a.tackon) {
-        if (a.packon) return has(words, "PACK");
+        // Quisquam has no plural (quasquam).
+        if (a.packon)
+            return has(words, "PACK") &&
+                   !(a.meaning.find("no pl.") != std::string::npos &&
+                     std::any_of(a.inflections.begin(), a.inflections.end(),
+                                 [](const auto& t) { return t.size() > 5 && t[5] == "P"; }));
         if (a.completes) return a.meaning.find("(w/-") != std::string::npos;
         // -que after a word that takes it as its own ending: uterque, plerusque.
         return a.meaning.find("w/que") != std::string::npos ||
@@ -192,7 +198,7 @@ bool acceptable(const Analysis& a, const WhitakerRules& rules) {
         if (a.syncope && (has(t, "FUTP") || (has(t, "PERF") && has(t, "SUB")))) return false;
         // The gerundive of a verb without object is impersonal, neuter only (saeviendum).
         if (intransitive && !deponent && t[1] == "VPAR" && has(t, "FUT") && has(t, "PASSIVE"))
-            return t.size() > 6 && t[6] == "N";
+            return t.size() > 6 && t[5] == "S" && t[6] == "N";
         if (t[1] != "V" || t.size() < 7) return true;
         if (deponent && !passiveShape(t)) return false;
         // Audeo, gaudeo, fido: active in the present system, no passive at all, and a perfect
@@ -206,7 +212,8 @@ bool acceptable(const Analysis& a, const WhitakerRules& rules) {
         if (t.size() < 9) return true;
         if (has(t, "IMP") && has(t, "FUT") && !common) return false;
         if (impersonal) return thirdSingular(t);
-        return !(intransitive && passive && !thirdSingular(t));
+        // The impersonal passive is a statement (itur, eatur), not a command (fluitor).
+        return !(intransitive && passive && (!thirdSingular(t) || has(t, "IMP")));
     });
 }
 
