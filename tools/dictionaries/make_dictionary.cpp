@@ -1,12 +1,14 @@
-// The generator's compiled half: trims a Hunspell affix file before expansion, splits the Latin
-// stems by the corpus count of their lemma, and writes a dictionary file SLESSICO.<n> from
-// plain UTF-8 word lists with the game's own writer, leaving out the excluded words.
+// The generator's compiled half: trims a Hunspell affix file before expansion, judges the Latin
+// forms by WORDS's analyses, counts how much words are used, and writes a dictionary file
+// SLESSICO.<n> from plain UTF-8 word lists with the game's own writer, leaving out the excluded
+// words and, where a length is full, the least used.
 // make_dictionaries.sh drives it; run without arguments for the usage.
 #include "core/addresses.h"
 #include "core/atomic_file.h"
 #include "dictionary/dictionary_format.h"
 #include "tools/dictionaries/affix_trim.h"
 #include "tools/dictionaries/stem_ranking.h"
+#include "tools/dictionaries/use_counts.h"
 #include "tools/dictionaries/whitaker_check.h"
 #include "tools/dictionaries/word_exclusion.h"
 #include "tools/dictionaries/word_filter.h"
@@ -15,6 +17,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <iterator>
@@ -29,40 +32,49 @@ using namespace griglione;
 namespace {
 
 int usage() {
-    std::fputs("usage:\n"
-               "  make_dictionary trim-affixes italian|latin IN.aff OUT.aff\n"
-               "  make_dictionary split-stems lemmes|list FILE IN.dic OUT_PREFIX COUNT,COUNT...\n"
-               "    writes OUT_PREFIX1.dic (stems whose count is at least the first COUNT),\n"
-               "    OUT_PREFIX2.dic... and one more with the other stems; the counts come from\n"
-               "    Collatinus's lemmes.la, or are 1 for each word of a plain list\n"
-               "  make_dictionary school-stems IN.dic OUT.dic\n"
-               "    keeps the first of the Latin dictionary's spellings, the school one\n"
-               "  make_dictionary admitted LANGUAGE TIER...\n"
-               "    prints the admitted words of the tiers once each, in lower case\n"
-               "  make_dictionary wordnet-abbreviations WORDNET_DIR COMMON_LIST SOURCE[,SOURCE]\n"
-               "    prints the abbreviations of the English sources that WordNet shows\n"
-               "  make_dictionary list FILE\n"
-               "    prints the words of a dictionary file, one a line, for review\n"
-               "  make_dictionary whitaker-setup\n"
-               "    prints the answers that set whitakers-words up for latin-check\n"
-               "  make_dictionary latin-check WORDS OUTPUT LEMMAS ACCEPTED REFUSED\n"
-               "    keeps the WORDS whose whitakers-words OUTPUT is classical and decent;\n"
-               "    LEMMAS has lines \"rude HEADWORD...\" and \"decent HEADWORD...\"\n"
-               "  make_dictionary build LANGUAGE NOTICE OUT [OPTION]... TIER...\n"
-               "    LANGUAGE  1 (Italian), 2 (English) or 3 (Latin)\n"
-               "    NOTICE    the description, ASCII; {count} stands for the number of words;\n"
-               "              the maker's notice with our addresses follows it\n"
-               "    --block=LIST    a plain UTF-8 list of words to leave out (slurs, obscenities)\n"
-               "    --own=FILE      our own list of \"block LANGS word\" and \"allow LANGS word\"\n"
-               "    --refused=FILE  writes the words left out, with the reason, for review\n"
-               "    --names=LIST    names, refused unless a trusted tier has them\n"
-               "    --abbreviations=LIST  abbreviations, refused\n"
-               "    --only=LIST     the only words that may pass (checked by another tool)\n"
-               "    --trusted=N     the first N tiers are curated: names and the Italian\n"
-               "                    spelling rule do not overrule them\n"
-               "    TIER      one or more UTF-8 word lists joined by commas; earlier tiers win\n"
-               "              when a length has more words than the editor can hold\n",
-               stderr);
+    std::fputs(
+        "usage:\n"
+        "  make_dictionary trim-affixes italian|latin IN.aff OUT.aff\n"
+        "  make_dictionary split-stems lemmes|list FILE IN.dic OUT_PREFIX COUNT,COUNT...\n"
+        "    writes OUT_PREFIX1.dic (stems whose count is at least the first COUNT),\n"
+        "    OUT_PREFIX2.dic... and one more with the other stems; the counts come from\n"
+        "    Collatinus's lemmes.la, or are 1 for each word of a plain list\n"
+        "  make_dictionary school-stems IN.dic OUT.dic\n"
+        "    keeps the first of the Latin dictionary's spellings, the school one\n"
+        "  make_dictionary admitted LANGUAGE TIER...\n"
+        "    prints the admitted words of the tiers once each, in lower case\n"
+        "  make_dictionary wordnet-abbreviations WORDNET_DIR COMMON_LIST SOURCE[,SOURCE]\n"
+        "    prints the abbreviations of the English sources that WordNet shows\n"
+        "  make_dictionary list FILE\n"
+        "    prints the words of a dictionary file, one a line, for review\n"
+        "  make_dictionary whitaker-setup\n"
+        "    prints the answers that set whitakers-words up for latin-check\n"
+        "  make_dictionary latin-check WORDS RUNS LEMMAS ACCEPTED REFUSED LEMMES USE\n"
+        "    keeps the WORDS whose whitakers-words analysis is classical and decent;\n"
+        "    RUNS is a folder of NAME.words (the words of a run) and NAME.out (its output);\n"
+        "    LEMMAS has lines \"rude HEADWORD...\", \"decent HEADWORD...\" and\n"
+        "    \"common HEADWORD...\" (capitalised headwords that are common nouns too) and\n"
+        "    \"archaic HEADWORD...\" (archaic spellings WORDS does not mark);\n"
+        "    writes to USE how much each kept word is used (Collatinus's LEMMES counts)\n"
+        "  make_dictionary use-counts LANGUAGE FORMS_LEMMAS TOKEN_COUNTS HEADWORDS\n"
+        "    prints \"WORD<TAB>USE\" for every word the lemma counts over a text give\n"
+        "  make_dictionary build LANGUAGE NOTICE OUT [OPTION]... TIER...\n"
+        "    LANGUAGE  1 (Italian), 2 (English) or 3 (Latin)\n"
+        "    NOTICE    the description, ASCII; {count} stands for the number of words;\n"
+        "              the maker's notice with our addresses follows it\n"
+        "    --block=LIST    a plain UTF-8 list of words to leave out (slurs, obscenities)\n"
+        "    --own=FILE      our own list of \"block LANGS word\" and \"allow LANGS word\"\n"
+        "    --refused=FILE  writes the words left out, with the reason, for review\n"
+        "    --names=LIST    names, refused unless a trusted tier has them\n"
+        "    --abbreviations=LIST  abbreviations, refused\n"
+        "    --only=LIST     the only words that may pass (checked by another tool)\n"
+        "    --use=LIST      lines \"WORD<TAB>USE\", WORD in capitals: a full length keeps\n"
+        "                    the most used\n"
+        "    --trusted=N     the first N tiers are curated: names and the Italian\n"
+        "                    spelling rule do not overrule them\n"
+        "    TIER      one or more UTF-8 word lists joined by commas; earlier tiers win\n"
+        "              when a length has more words than the editor can hold\n",
+        stderr);
     return 2;
 }
 
@@ -84,30 +96,6 @@ int trimAffixFile(const std::string& language, const std::string& in, const std:
     const AffixTrim trim = trimAffixes(*text, rules);
     if (!writeFileAtomically(out, trim.text)) return fail("cannot write " + out);
     std::printf("%s: %zu affix entries kept, %zu dropped\n", out.c_str(), trim.kept, trim.dropped);
-    return 0;
-}
-
-int splitStems(const std::string& kind, const std::string& source, const std::string& dic,
-               const std::string& prefix, const std::string& thresholdList) {
-    if (kind != "lemmes" && kind != "list") return usage();
-    std::vector<long> thresholds;
-    std::stringstream list(thresholdList);
-    std::string item;
-    while (std::getline(list, item, ','))
-        thresholds.push_back(std::stol(item));
-    const auto sourceText = readWholeFile(source);
-    if (!sourceText) return fail("cannot read " + source);
-    const auto dicText = readWholeFile(dic);
-    if (!dicText) return fail("cannot read " + dic);
-    const auto counts =
-        kind == "lemmes" ? latinLemmaCounts(*sourceText) : listedWordCounts(*sourceText);
-    const auto files = splitStemsByCount(*dicText, counts, thresholds);
-    for (std::size_t i = 0; i < files.size(); ++i) {
-        const std::string name = prefix + std::to_string(i + 1) + ".dic";
-        if (!writeFileAtomically(name, files[i])) return fail("cannot write " + name);
-        std::printf("%s: %s stems\n", name.c_str(),
-                    files[i].substr(0, files[i].find('\n')).c_str());
-    }
     return 0;
 }
 
@@ -143,6 +131,8 @@ const char* reasonText(Refusal refusal) {
         return "name";
     case Refusal::NotItalian:
         return "not Italian spelling";
+    case Refusal::Truncated:
+        return "cut short";
     case Refusal::NotChecked:
         return "not classical";
     case Refusal::Abbreviation:
@@ -167,6 +157,7 @@ int buildDictionary(int argc, char** argv) {
     const std::string out = argv[4];
 
     WordExclusion exclusion(language);
+    WordSelection selection;
     std::string refusedFile;
     std::size_t trusted = 0;
     int next = 5;
@@ -191,6 +182,15 @@ int buildDictionary(int argc, char** argv) {
             if (!text) return fail("cannot read " + value);
             for (const int line : exclusion.readList(*text))
                 std::fprintf(stderr, "%s:%d: not an entry\n", value.c_str(), line);
+        } else if (name == "--use") {
+            std::map<std::string, long> use;
+            read = forEachLine(value, [&](std::string_view line) {
+                const std::size_t tab = line.find('\t'); // the word is in capitals already
+                if (tab != std::string_view::npos)
+                    use[std::string(line.substr(0, tab))] =
+                        std::stol(std::string(line.substr(tab + 1)));
+            });
+            selection.setUse(std::move(use));
         } else if (name == "--refused") {
             refusedFile = value;
         } else if (name == "--trusted") {
@@ -213,14 +213,16 @@ int buildDictionary(int argc, char** argv) {
         std::size_t& lines = lineCounts.emplace_back(0);
         const bool read = forEachLine(argv[i], [&](std::string_view line) {
             ++lines;
-            if (auto word = admitWord(line, language)) words.push_back(std::move(*word));
+            if (auto word = admitWord(line, language))
+                words.push_back(std::move(*word));
+            else if (auto longer = foldedCapitals(line); longer && longer->size() == 11)
+                vocabulary.insert(std::move(*longer)); // PARTICOLARE shows PARTICOLAR cut short
         });
         if (!read) return 1;
         vocabulary.insert(words.begin(), words.end());
     }
     exclusion.setVocabulary(std::move(vocabulary));
 
-    WordSelection selection;
     std::map<std::string, Refusal> refused;
     for (std::size_t i = 0; i < tiers.size(); ++i) {
         std::vector<std::string> words;
@@ -245,6 +247,11 @@ int buildDictionary(int argc, char** argv) {
         std::string text;
         for (const auto& [word, why] : refused) // a word another tier brought in is not listed
             if (!selection.contains(word)) text += word + '\t' + reasonText(why) + '\n';
+        // The words a full length left out, with their rank among the new words of their tier
+        // and length (most used first) and their use.
+        for (const auto& [word, cut] : selection.cut())
+            text += word + "\tcut: rank " + std::to_string(cut.rank) + " of " +
+                    std::to_string(cut.of) + ", use " + std::to_string(cut.use) + '\n';
         if (!writeFileAtomically(refusedFile, text)) return fail("cannot write " + refusedFile);
     }
 
@@ -297,45 +304,96 @@ int admittedWords(int argc, char** argv) {
     return 0;
 }
 
-int latinCheck(const std::string& wordFile, const std::string& outputFile,
+// Reads a whole file without readWholeFile's cap (WORDS's analyses run to some 140 MB).
+std::optional<std::string> readLargeFile(const std::string& name) {
+    std::ifstream in(name, std::ios::binary);
+    std::optional<std::string> text =
+        in ? std::optional(std::string(std::istreambuf_iterator<char>(in), {})) : std::nullopt;
+    return in.bad() ? std::nullopt : text;
+}
+
+int latinCheck(const std::string& wordFile, const std::string& runsFolder,
                const std::string& lemmaFile, const std::string& acceptedFile,
-               const std::string& refusedFile) {
+               const std::string& refusedFile, const std::string& lemmesFile,
+               const std::string& useFile) {
+    const auto lemmes = readWholeFile(lemmesFile);
+    if (!lemmes) return fail("cannot read " + lemmesFile);
+    const auto lemmaCounts = latinLemmaCounts(*lemmes);
     std::vector<std::string> words;
     if (!forEachLine(wordFile, [&](std::string_view w) { words.emplace_back(w); })) return 1;
     WhitakerRules rules;
+    rules.lemmaCounts = lemmaCounts;
     const bool lemmas = forEachLine(lemmaFile, [&](std::string_view line) {
         std::istringstream in{std::string(line.substr(0, line.find('#')))};
         std::string kind, lemma;
         in >> kind;
         while (in >> lemma)
-            (kind == "rude" ? rules.rudeLemmas : rules.decentLemmas).insert(lemma);
+            (kind == "rude"      ? rules.rudeLemmas
+             : kind == "common"  ? rules.commonNames
+             : kind == "archaic" ? rules.archaicLemmas
+                                 : rules.decentLemmas)
+                .insert(lemma);
     });
     if (!lemmas) return 1;
-    // Far larger than the game's files (some 140 MB): read whole without readWholeFile's cap.
-    std::ifstream in(outputFile, std::ios::binary);
-    const std::optional<std::string> output =
-        in ? std::optional(std::string(std::istreambuf_iterator<char>(in), {})) : std::nullopt;
-    if (!output || in.bad()) return fail("cannot read " + outputFile);
-    const auto blocks = whitakerBlocks(*output, words.size());
-    if (blocks.empty()) return fail(outputFile + " does not hold one analysis per word");
+    // Each run of WORDS left NAME.words (its words, one a line) and NAME.out (its output); a
+    // remake only runs it on the forms no run has seen.
+    std::vector<std::filesystem::path> runs;
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(runsFolder, error))
+        if (entry.path().extension() == ".words") runs.push_back(entry.path());
+    std::sort(runs.begin(), runs.end());
+    std::vector<std::string> outputs;
+    outputs.reserve(runs.size());
+    std::map<std::string, std::string_view> analysis;
+    for (const auto& run : runs) {
+        std::vector<std::string> ran;
+        if (!forEachLine(run.string(), [&](std::string_view w) { ran.emplace_back(w); })) return 1;
+        auto output = readLargeFile(std::filesystem::path(run).replace_extension(".out"));
+        if (!output) continue; // a run cut short: its words go to WORDS again
+        const std::string& kept = outputs.emplace_back(std::move(*output));
+        const auto blocks = whitakerBlocks(kept, ran.size());
+        if (blocks.empty()) return fail(run.string() + " has not one analysis per word");
+        for (std::size_t i = 0; i < ran.size(); ++i)
+            analysis.emplace(ran[i], blocks[i]);
+    }
     static const char* const names[] = {"classical", "unknown", "not classical", "rude"};
     std::size_t counts[4] = {};
-    std::string accepted, refused;
+    std::string accepted, refused, use;
     for (std::size_t i = 0; i < words.size(); ++i) {
-        const LatinVerdict verdict = judgeWhitakerBlock(blocks[i], rules);
+        const auto found = analysis.find(words[i]);
+        if (found == analysis.end()) return fail(words[i] + " has no analysis in " + runsFolder);
+        const std::string_view block = found->second;
+        const LatinVerdict verdict = judgeWhitakerBlock(block, rules);
         ++counts[static_cast<int>(verdict)];
         std::string capitals = words[i];
         std::transform(capitals.begin(), capitals.end(), capitals.begin(),
                        [](char c) { return static_cast<char>(c >= 'a' ? c - 'a' + 'A' : c); });
-        if (verdict == LatinVerdict::Classical)
+        if (verdict == LatinVerdict::Classical) {
             accepted += capitals + '\n';
-        else
+            use += capitals + '\t' + std::to_string(latinUse(block, rules, lemmaCounts)) + '\n';
+        } else
             refused += capitals + '\t' + names[static_cast<int>(verdict)] + '\n';
     }
     if (!writeFileAtomically(acceptedFile, accepted)) return fail("cannot write " + acceptedFile);
     if (!writeFileAtomically(refusedFile, refused)) return fail("cannot write " + refusedFile);
+    if (!writeFileAtomically(useFile, use)) return fail("cannot write " + useFile);
     for (int k = 0; k < 4; ++k)
         std::printf("  %s: %zu\n", names[k], counts[k]);
+    return 0;
+}
+
+int useCounts(char** argv) {
+    const std::string number = argv[2];
+    if (number != "1" && number != "2" && number != "3") return usage();
+    std::string texts[3];
+    for (int i = 0; i < 3; ++i) {
+        std::ifstream in(argv[3 + i], std::ios::binary); // may pass readWholeFile's cap
+        if (!in) return fail(std::string("cannot read ") + argv[3 + i]);
+        texts[i].assign(std::istreambuf_iterator<char>(in), {});
+    }
+    for (const auto& [word, use] :
+         lemmaUse(texts[0], texts[1], texts[2], static_cast<Language>(std::stoi(number))))
+        std::printf("%s\t%ld\n", word.c_str(), use);
     return 0;
 }
 
@@ -385,8 +443,6 @@ int listWords(const std::string& name) {
 int main(int argc, char** argv) {
     if (argc == 5 && std::string(argv[1]) == "trim-affixes")
         return trimAffixFile(argv[2], argv[3], argv[4]);
-    if (argc == 7 && std::string(argv[1]) == "split-stems")
-        return splitStems(argv[2], argv[3], argv[4], argv[5], argv[6]);
     if (argc == 4 && std::string(argv[1]) == "school-stems") return schoolStems(argv[2], argv[3]);
     if (argc >= 6 && std::string(argv[1]) == "build") return buildDictionary(argc, argv);
     if (argc >= 4 && std::string(argv[1]) == "admitted") return admittedWords(argc, argv);
@@ -397,7 +453,8 @@ int main(int argc, char** argv) {
         std::fputs(whitakerSetup().c_str(), stdout);
         return 0;
     }
-    if (argc == 7 && std::string(argv[1]) == "latin-check")
-        return latinCheck(argv[2], argv[3], argv[4], argv[5], argv[6]);
+    if (argc == 9 && std::string(argv[1]) == "latin-check")
+        return latinCheck(argv[2], argv[3], argv[4], argv[5], argv[6], argv[7], argv[8]);
+    if (argc == 6 && std::string(argv[1]) == "use-counts") return useCounts(argv);
     return usage();
 }

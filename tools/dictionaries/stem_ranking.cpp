@@ -60,46 +60,6 @@ std::map<std::string, long> latinLemmaCounts(std::string_view lemmesFile) {
     return counts;
 }
 
-std::map<std::string, long> listedWordCounts(std::string_view wordList) {
-    std::map<std::string, long> counts;
-    for (const std::string_view line : split(wordList, '\n'))
-        if (const auto word = foldedCapitals(withoutLineEnd(line)); word && !word->empty())
-            counts[*word] = 1;
-    return counts;
-}
-
-std::vector<std::string> splitStemsByCount(std::string_view dic,
-                                           const std::map<std::string, long>& counts,
-                                           const std::vector<long>& thresholds) {
-    std::vector<std::vector<std::string_view>> groups(thresholds.size() + 1);
-    const auto lines = split(dic, '\n');
-    for (std::size_t i = 1; i < lines.size(); ++i) {
-        const std::string_view line = withoutLineEnd(lines[i]);
-        const auto word = foldedCapitals(line.substr(0, line.find_first_of("/\t ")));
-        if (!word || word->empty()) continue;
-        const auto found = counts.find(*word);
-        const long count = found == counts.end() ? 0 : found->second;
-        std::size_t group = 0;
-        while (group < thresholds.size() && count < thresholds[group])
-            ++group;
-        groups[group].push_back(line);
-    }
-    std::vector<std::string> files;
-    for (const auto& group : groups) {
-        std::string file = std::to_string(group.size()) + '\n';
-        for (const std::string_view line : group) {
-            file += line;
-            file += '\n';
-        }
-        files.push_back(std::move(file));
-    }
-    return files;
-}
-
-} // namespace griglione
-
-namespace griglione {
-
 std::string schoolSpellingStems(std::string_view dic) {
     const auto lines = split(dic, '\n');
     std::string kept;

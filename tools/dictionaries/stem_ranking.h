@@ -1,8 +1,6 @@
-// Orders the stems of a Hunspell dictionary by how common their word is, so that the forms of
-// common words (amo, rex, legio; mangiare) go in before those of rare ones when a word length
-// has more forms than the dictionary can hold. For Latin the counts come from Collatinus's lemma
-// list (lemmes.la: "lemma=variants|model|radical|radical|meaning|count" per line), for Italian
-// from a curated word list.
+// The Latin stems: how common their lemma is, from Collatinus's lemma list (lemmes.la:
+// "lemma=variants|model|radical|radical|meaning|count" per line), for the ranking of the forms
+// by use; and the one spelling of the Latin dictionary's stems the school writes.
 #pragma once
 
 #include <map>
@@ -17,18 +15,6 @@ namespace griglione {
 // (-UM) and the genitive (-IS). A form shared by two lemmas keeps the larger count. Proper names
 // (capitalised) and comment lines ("!") are left out.
 std::map<std::string, long> latinLemmaCounts(std::string_view lemmesFile);
-
-// Count 1 for every word of a plain list (one word per line): the stems a curated list of
-// common words already holds rank before the others.
-std::map<std::string, long> listedWordCounts(std::string_view wordList);
-
-// Splits the stem lines of a Hunspell .dic (first line: the number of stems) into one .dic per
-// threshold, in decreasing order: the stems whose lemma counts at least that much and less than
-// the threshold before; then one more with every other stem. Lines that cannot give an
-// admissible word (capitals, punctuation, comments) are left out.
-std::vector<std::string> splitStemsByCount(std::string_view dic,
-                                           const std::map<std::string, long>& counts,
-                                           const std::vector<long>& thresholds);
 
 // The Latin dictionary lists its stems three times: in the school spelling (SERVUS, TUUS), then
 // the twins that write every U as V (SERVVS, TVVS), then those that write every V as U (SERUUS,

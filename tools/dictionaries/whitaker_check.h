@@ -4,6 +4,7 @@
 // that take no object, no forms glued to -que/-ne/-ve, nothing marked rude.
 #pragma once
 
+#include <map>
 #include <set>
 #include <string>
 #include <string_view>
@@ -18,6 +19,13 @@ struct WhitakerRules {
     std::set<std::string> rudeLemmas;
     // Headwords whose meaning mentions a rude sense beside ordinary ones (corvus, the raven).
     std::set<std::string> decentLemmas;
+    // Capitalised headwords that are common nouns too (Deus: god, gods).
+    std::set<std::string> commonNames;
+    // Headwords that are archaic spellings WORDS does not mark (gnosco for nosco).
+    std::set<std::string> archaicLemmas;
+    // Collatinus's corpus counts of the lemmas, in capitals: which of a deponent and its active
+    // twin is the real word.
+    std::map<std::string, long> lemmaCounts;
 };
 
 // The parameter answers that set WORDS up for checking: every analysis shown untrimmed, no
@@ -34,5 +42,13 @@ std::vector<std::string_view> whitakerBlocks(std::string_view output, std::size_
 // common-noun entry under an inflection that is not late and fits the verb; Rude when any
 // analysis is of a rude entry.
 LatinVerdict judgeWhitakerBlock(std::string_view block, const WhitakerRules& rules);
+
+// How much the form is used, for the ranking of a full length: over its acceptable analyses the
+// largest of 100 × the corpus count of the headword (lemmaCounts, Collatinus's, in capitals; at
+// least 800, 300, 100, 10, 1 for WORDS's frequency codes A to E) +
+// 10 × WORDS's frequency code (A 5 ... E 1) + 1 for a form of everyday use (not the future
+// perfect, the pluperfect subjunctive, the future imperative, the -mini passive).
+long latinUse(std::string_view block, const WhitakerRules& rules,
+              const std::map<std::string, long>& lemmaCounts);
 
 } // namespace griglione

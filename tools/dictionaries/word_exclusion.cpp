@@ -245,7 +245,7 @@ std::vector<int> WordExclusion::readList(std::string_view text) {
 
 Refusal WordExclusion::refusal(const std::string& capitals, bool trusted) const {
     if (m_allowed.contains(capitals)) return Refusal::None;
-    if (m_restricted && !m_checked.contains(capitals)) return Refusal::NotChecked;
+    if (m_restricted && !trusted && !m_checked.contains(capitals)) return Refusal::NotChecked;
     // The forms of an allowed word stay in with it (allowing CHIAVARE keeps CHIAVI).
     const auto blocked = m_blocked.find(capitals);
     if (blocked != m_blocked.end() &&
@@ -258,12 +258,17 @@ Refusal WordExclusion::refusal(const std::string& capitals, bool trusted) const 
     if (m_abbreviations.contains(capitals)) return Refusal::Abbreviation;
     if (m_language == Language::Italian && foreignItalianSpelling(capitals, trusted))
         return Refusal::NotItalian;
-    // A shortened infinitive of poetry (BACIAR, SVANIR beside BACIARE, SVANIRE), whatever the
-    // source; three- and four-letter words (BAR, FAR) are left alone.
-    if (m_language == Language::Italian && capitals.size() >= 5 && capitals.back() == 'R' &&
-        std::string_view("AEI").find(capitals[capitals.size() - 2]) != std::string_view::npos &&
-        m_vocabulary.contains(capitals + 'E'))
-        return Refusal::NotItalian;
+    // A word cut short by poetry (CUOR, CIEL, RAGION, DICON, SARAN, DIR beside CUORE, CIELO,
+    // RAGIONE, DICONO, SARANNO... DIRE): an ending L, M, N or R whose word with a final vowel
+    // is in the sources, whatever the source. The ordinary apocopes (BUON, GRAN, SIGNOR, VUOL)
+    // and the loanwords (BAR, FILM, TRAM) are on the allow-list.
+    if (m_language == Language::Italian &&
+        std::string_view("LMNR").find(capitals.back()) != std::string_view::npos) {
+        for (const char vowel : {'A', 'E', 'I', 'O'})
+            if (m_vocabulary.contains(capitals + vowel)) return Refusal::Truncated;
+        if (capitals.back() == 'N' && m_vocabulary.contains(capitals + "NO"))
+            return Refusal::Truncated; // SARAN, STAN beside SARANNO, STANNO
+    }
     if (!trusted && m_names.contains(capitals)) return Refusal::Name;
     return Refusal::None;
 }

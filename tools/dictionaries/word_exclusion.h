@@ -43,6 +43,7 @@ enum class Refusal {
     RomanNumeral, //
     Name,         // a place or person name of a name list
     NotItalian,   // foreignItalianSpelling
+    Truncated,    // an Italian word cut short by poetry (CUOR, DICON)
     NotChecked,   // not among the words an outside checker accepted (Latin: whitakers-words)
     Abbreviation, // a word of an abbreviation list
 };

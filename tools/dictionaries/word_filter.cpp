@@ -99,8 +99,9 @@ bool schoolLatinSpelling(std::string_view w) {
             // A vowel written V: before a consonant, at the end, or in QV / GV.
             if (!isVowel(after) || before == 'Q' || before == 'G') return false;
         } else if (w[i] == 'U') {
-            // A consonant written U: at the start or between vowels, before a vowel.
-            if (isVowel(after) && (i == 0 || isVowel(before))) return false;
+            // A consonant written U: at the start or between vowels, before a vowel; or the
+            // twin of IUV written IVU (ivuo, adivuande).
+            if (isVowel(after) && (i == 0 || isVowel(before) || before == 'V')) return false;
         }
     }
     return true;

@@ -1,6 +1,7 @@
 #include "tools/dictionaries/word_selection.h"
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 namespace griglione {
@@ -16,6 +17,15 @@ std::uint32_t wordHash(const std::string& word) {
 
 WordSelection::WordSelection(std::size_t wordsPerLength) : m_wordsPerLength(wordsPerLength) {}
 
+void WordSelection::setUse(std::map<std::string, long> use) {
+    m_use = std::move(use);
+}
+
+long WordSelection::use(const std::string& word) const {
+    const auto found = m_use.find(word);
+    return found == m_use.end() ? 0 : found->second;
+}
+
 std::size_t WordSelection::addTier(const std::vector<std::string>& words) {
     const std::size_t before = size();
     std::array<std::set<std::string>, kMaxWordLength - kMinWordLength + 1> fresh;
@@ -26,19 +36,27 @@ std::size_t WordSelection::addTier(const std::vector<std::string>& words) {
         if (!m_words[i].contains(word)) fresh[i].insert(word);
     }
     for (std::size_t i = 0; i < fresh.size(); ++i) {
+        for (const std::string& word : fresh[i])
+            m_cut.erase(word);
         const std::size_t room = m_wordsPerLength - std::min(m_wordsPerLength, m_words[i].size());
         if (fresh[i].size() <= room) {
             m_words[i].merge(fresh[i]);
             continue;
         }
-        std::vector<std::pair<std::uint32_t, std::string>> ranked;
+        // Most used first; among words used as much, the smallest wordHash: a spread over the
+        // alphabet that stays the same from run to run.
+        std::vector<std::tuple<long, std::uint32_t, std::string>> ranked;
         ranked.reserve(fresh[i].size());
         for (const std::string& word : fresh[i])
-            ranked.emplace_back(wordHash(word), word);
-        std::partial_sort(ranked.begin(), ranked.begin() + static_cast<std::ptrdiff_t>(room),
-                          ranked.end());
-        for (std::size_t k = 0; k < room; ++k)
-            m_words[i].insert(std::move(ranked[k].second));
+            ranked.emplace_back(-use(word), wordHash(word), word);
+        std::sort(ranked.begin(), ranked.end());
+        for (std::size_t k = 0; k < ranked.size(); ++k) {
+            auto& [negativeUse, hash, word] = ranked[k];
+            if (k < room)
+                m_words[i].insert(std::move(word));
+            else
+                m_cut[word] = {k + 1, ranked.size(), -negativeUse};
+        }
     }
     return size() - before;
 }
