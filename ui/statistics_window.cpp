@@ -26,6 +26,11 @@
 namespace griglione {
 namespace {
 
+// The player's bars blue as the player's score in the main window, the computer's orange: apart in
+// hue and in lightness, also when a dark ground lightens both.
+const QColor kPlayerBars(0, 80, 200);
+const QColor kComputerBars(190, 60, 0);
+
 QString options(std::string_view source) {
     return QCoreApplication::translate("Options", source.data());
 }
@@ -221,7 +226,8 @@ void StatisticsWindow::showChoice() {
     }
     m_scores->scrollToBottom();
     m_scoresChart->setEmptyText(none);
-    m_scoresChart->setData(labels, {{tr("Tu"), kBlue, mine}, {tr("Computer"), kRed, cpu}}, false);
+    m_scoresChart->setData(
+        labels, {{tr("Tu"), kPlayerBars, mine}, {tr("Computer"), kComputerBars, cpu}}, false);
 
     QStringList letters;
     std::vector<double> found;
@@ -234,7 +240,7 @@ void StatisticsWindow::showChoice() {
     }
     m_lengthsChart->setEmptyText(none);
     m_lengthsChart->setData(s.matches > 0 ? letters : QStringList(),
-                            {{tr("Parole trovate"), kBlue, found}}, true);
+                            {{tr("Parole trovate"), kPlayerBars, found}}, true);
 }
 
 void StatisticsWindow::showSummaryTab(const LogSummary& s) {
