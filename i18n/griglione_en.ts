@@ -1121,6 +1121,10 @@ Thanks to everyone who plays and reports missing words.</translation>
         <source>Errore 0007: impossibile svuotare il registro delle partite %1 nella posizione: %2 (%3).</source>
         <translation>Error 0007: cannot empty the match log %1 in the folder: %2 (%3).</translation>
     </message>
+    <message>
+        <source>Statistiche</source>
+        <translation>Statistics</translation>
+    </message>
 </context>
 <context>
     <name>griglione::VocabularyEditorWindow</name>

@@ -14,6 +14,7 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -30,6 +31,14 @@ namespace {
 // hue and in lightness, also when a dark ground lightens both.
 const QColor kPlayerBars(0, 80, 200);
 const QColor kComputerBars(190, 60, 0);
+
+// What tells that the log changed since it was read: its size and the time of its last write.
+std::pair<std::uintmax_t, std::filesystem::file_time_type>
+fileStamp(const std::filesystem::path& file) {
+    std::error_code error;
+    const auto size = std::filesystem::file_size(file, error);
+    return {error ? 0 : size, std::filesystem::last_write_time(file, error)};
+}
 
 QString options(std::string_view source) {
     return QCoreApplication::translate("Options", source.data());
@@ -98,6 +107,7 @@ StatisticsWindow::StatisticsWindow(std::filesystem::path logFile, Alerts& alerts
 
     auto* tabs = new QTabWidget(this);
     tabs->setObjectName("TabStatistiche");
+    tabs->setAccessibleName(tr("Statistiche"));
     auto* summary = new QWidget;
     m_figures = new QLabel(summary);
     m_figures->setObjectName("LabelCifre");
@@ -187,15 +197,27 @@ void StatisticsWindow::open(QWidget* mainWindow, const Services& services, const
 }
 
 void StatisticsWindow::load(int numDizionario, int tempoPartita) {
-    m_log = readLog(m_file);
     const QSignalBlocker quietLanguage(m_language), quietLength(m_length);
     m_language->setCurrentIndex(std::max(0, m_language->findData(numDizionario)));
     m_length->setCurrentIndex(std::max(0, m_length->findData(tempoPartita)));
+    readAgain();
+}
+
+void StatisticsWindow::readAgain() {
+    m_log = readLog(m_file);
+    m_stamp = fileStamp(m_file);
     m_skipped->setText(m_log.skipped == 0
                            ? QString()
                            : tr("Righe del registro illeggibili, saltate: %1").arg(m_log.skipped));
     m_skipped->setVisible(m_log.skipped > 0);
     showChoice();
+}
+
+bool StatisticsWindow::event(QEvent* event) {
+    // A match that ended while the window stood open shows when the player comes back to it;
+    // an unchanged log keeps the tables where the player left them.
+    if (event->type() == QEvent::WindowActivate && fileStamp(m_file) != m_stamp) readAgain();
+    return QDialog::event(event);
 }
 
 void StatisticsWindow::showChoice() {
@@ -295,7 +317,7 @@ void StatisticsWindow::askToEmpty() {
                                  QString::fromStdString(systemReason(why)))
                             .toStdString());
     }
-    load(m_language->currentData().toInt(), m_length->currentData().toInt());
+    readAgain();
 }
 
 } // namespace griglione

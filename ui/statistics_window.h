@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <utility>
 
 class QComboBox;
 class QLabel;
@@ -37,7 +38,11 @@ public:
     // opening, not modal, so the match goes on behind it.
     static void open(QWidget* mainWindow, const Services& services, const GameState& state);
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
+    void readAgain();
     void showChoice();
     void showSummaryTab(const LogSummary& summary);
     void askToEmpty();
@@ -47,6 +52,7 @@ private:
     Outside& m_outside;
     Ask m_ask;
     LogContent m_log;
+    std::pair<std::uintmax_t, std::filesystem::file_time_type> m_stamp;
     QComboBox* m_language = nullptr;
     QComboBox* m_length = nullptr;
     QLabel* m_figures = nullptr;
