@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 constexpr std::array<std::string_view, 3> kLanguageCodes = {"it", "en", "la"};
 constexpr std::size_t kFields = 10 + kWordLengths;
-constexpr std::size_t kLongestBoardCode = 64;
+constexpr std::size_t kLongestBoardCode = 128;
 
 bool isLowerWord(std::string_view word) {
     return std::all_of(word.begin(), word.end(), [](char c) { return c >= 'a' && c <= 'z'; });
@@ -22,7 +22,7 @@ bool isLowerWord(std::string_view word) {
 
 bool validBoardCode(std::string_view code) {
     return code.size() <= kLongestBoardCode &&
-           std::all_of(code.begin(), code.end(), [](char c) { return c > ' ' && c <= '~'; });
+           std::all_of(code.begin(), code.end(), [](char c) { return c >= ' ' && c <= '~'; });
 }
 
 // Plain digits only: a sign, a blank or a decimal point is somebody else's number.

@@ -37,7 +37,7 @@ struct MatchEntry {
     int numDizionario = 1;  // 1 Italian, 2 English, 3 Latin
     int tempoPartita = 120; // seconds
     int level = -1;         // index into kLevels; -1 when no level was chosen
-    std::string boardCode;  // empty for a dealt board
+    std::string boardCode;  // printable ASCII, at most 128 characters; empty for a dealt board
     std::int32_t punti = 0;
     std::int32_t puntiCPU = 0;
     std::int32_t parole = 0;

@@ -94,8 +94,8 @@ TEST(MatchLog, RefusesDamagedAndForeignLines) {
         {replaced(2, "0"), false},
         {replaced(2, "32768"), false},
         {replaced(3, "memo"), false},
-        {replaced(4, "A B"), false},
-        {replaced(4, std::string(65, 'A')), false},
+        {replaced(4, "A\x7f"), false},
+        {replaced(4, std::string(129, 'A')), false},
         {replaced(5, " 1240"), false}, // the sign place of the game's other files
         {replaced(5, "-5"), false},
         {replaced(5, "1.240"), false},
