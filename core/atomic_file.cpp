@@ -176,7 +176,7 @@ bool renameDurably(const fs::path& from, const fs::path& to, std::error_code* wh
     return true;
 }
 
-bool appendToFile(const fs::path& source, std::string_view bytes) {
+bool appendToFile(const fs::path& source, std::string_view bytes, std::error_code* why) {
     const fs::path path = writableFileName(source);
     std::error_code error;
     if (path != source) {
@@ -184,13 +184,14 @@ bool appendToFile(const fs::path& source, std::string_view bytes) {
         fs::copy_file(source, path, fs::copy_options::skip_existing, error);
         error.clear();
     }
-    if (!mayWrite(path)) return false;
+    if (const std::error_code refusal = writeRefusal(path)) return fail(why, refusal);
     const bool existed = fs::exists(path, error);
     const std::uintmax_t oldSize = existed ? fs::file_size(path, error) : 0;
-    if (error) return false;
+    if (error) return fail(why, error);
+    errno = 0;
     File file = openFile(path, "ab");
-    if (!file) return false;
-    if (writeAndClose(std::move(file), bytes, nullptr)) {
+    if (!file) return fail(why, lastError(std::errc::permission_denied));
+    if (writeAndClose(std::move(file), bytes, why)) {
         // A file just made is in its folder only once the folder is on the disk.
         if (!existed) syncFolder(folderOf(path));
         return true;

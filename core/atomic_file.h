@@ -43,8 +43,9 @@ bool renameDurably(const std::filesystem::path& from, const std::filesystem::pat
 
 // Adds `bytes` at the end of the file, creating it when missing, and flushes it to the disk
 // before it answers. On failure the file is cut back to its old length, so it never keeps half a
-// line.
-bool appendToFile(const std::filesystem::path& path, std::string_view bytes);
+// line. False, with the system's reason in `why`, when it could not.
+bool appendToFile(const std::filesystem::path& path, std::string_view bytes,
+                  std::error_code* why = nullptr);
 
 // Test seam for a disk that fills up: while set, every write made by writeFileAtomically and
 // appendToFile stores at most this many bytes in total and then fails, as a full disk would.

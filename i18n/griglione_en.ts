@@ -177,6 +177,13 @@ Click the &lt;OK&gt; button to play.</translation>
     </message>
 </context>
 <context>
+    <name>MatchLogWriter</name>
+    <message>
+        <source>Errore 0006: impossibile scrivere il registro delle partite %1 nella posizione: %2 (%3). Questa partita non entra nelle statistiche; l&apos;avviso non si ripete fino alla prossima partenza del gioco.</source>
+        <translation>Error 0006: cannot write the match log %1 in the folder: %2 (%3). This match is left out of the statistics; this notice is not repeated until the game is started again.</translation>
+    </message>
+</context>
+<context>
     <name>MenuBar</name>
     <message>
         <source>&amp;File</source>
@@ -249,6 +256,10 @@ Click the &lt;OK&gt; button to play.</translation>
     <message>
         <source>&amp;Informazioni su &apos;Il Griglione&apos; ...</source>
         <translation>&amp;About &apos;Il Griglione&apos; ...</translation>
+    </message>
+    <message>
+        <source>&amp;Statistiche ...</source>
+        <translation>&amp;Statistics ...</translation>
     </message>
 </context>
 <context>
@@ -946,6 +957,173 @@ Thanks to everyone who plays and reports missing words.</translation>
     <message>
         <source>Parole mancate</source>
         <translation>Missed words</translation>
+    </message>
+</context>
+<context>
+    <name>griglione::StatisticsWindow</name>
+    <message>
+        <source>Il Griglione - Statistiche</source>
+        <translation>Il Griglione - Statistics</translation>
+    </message>
+    <message>
+        <source>&amp;Lingua:</source>
+        <translation>&amp;Language:</translation>
+    </message>
+    <message>
+        <source>&amp;Tempo per partita:</source>
+        <translation>Match &amp;time:</translation>
+    </message>
+    <message>
+        <source>Risultati contro ogni livello</source>
+        <translation>Results against each level</translation>
+    </message>
+    <message>
+        <source>Avversario</source>
+        <translation>Opponent</translation>
+    </message>
+    <message>
+        <source>Partite</source>
+        <translation>Matches</translation>
+    </message>
+    <message>
+        <source>Vinte</source>
+        <translation>Won</translation>
+    </message>
+    <message>
+        <source>Pareggi</source>
+        <translation>Drawn</translation>
+    </message>
+    <message>
+        <source>Perse</source>
+        <translation>Lost</translation>
+    </message>
+    <message>
+        <source>Le dieci parole più lunghe</source>
+        <translation>The ten longest words</translation>
+    </message>
+    <message>
+        <source>Parola</source>
+        <translation>Word</translation>
+    </message>
+    <message>
+        <source>Lettere</source>
+        <translation>Letters</translation>
+    </message>
+    <message>
+        <source>Trovata il</source>
+        <translation>Found on</translation>
+    </message>
+    <message>
+        <source>Risultati contro ogni li&amp;vello</source>
+        <translation>Results against each le&amp;vel</translation>
+    </message>
+    <message>
+        <source>Le dieci parole più lung&amp;he</source>
+        <translation>The ten lon&amp;gest words</translation>
+    </message>
+    <message>
+        <source>&amp;Riepilogo</source>
+        <translation>&amp;Overview</translation>
+    </message>
+    <message>
+        <source>I numeri del grafico sono nella tabella qui sotto.</source>
+        <translation>The chart&apos;s numbers are in the table below it.</translation>
+    </message>
+    <message>
+        <source>Grafico degli ultimi 100 punteggi</source>
+        <translation>Chart of the last 100 scores</translation>
+    </message>
+    <message>
+        <source>Ultimi 100 punteggi</source>
+        <translation>Last 100 scores</translation>
+    </message>
+    <message>
+        <source>Partita</source>
+        <translation>Match</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Tu</source>
+        <translation>You</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Computer</translation>
+    </message>
+    <message>
+        <source>&amp;Punteggi</source>
+        <translation>&amp;Scores</translation>
+    </message>
+    <message>
+        <source>Grafico delle tue parole per lunghezza</source>
+        <translation>Chart of your words by length</translation>
+    </message>
+    <message>
+        <source>Le tue parole per lunghezza</source>
+        <translation>Your words by length</translation>
+    </message>
+    <message>
+        <source>Parole trovate</source>
+        <translation>Words found</translation>
+    </message>
+    <message>
+        <source>Parole per lun&amp;ghezza</source>
+        <translation>&amp;Word lengths</translation>
+    </message>
+    <message>
+        <source>&amp;Svuota il registro...</source>
+        <translation>&amp;Empty the log...</translation>
+    </message>
+    <message>
+        <source>&amp;Apri la cartella</source>
+        <translation>Open the &amp;folder</translation>
+    </message>
+    <message>
+        <source>Apre la cartella che contiene il registro delle partite %1.</source>
+        <translation>Opens the folder that holds the match log %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Chiudi</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>Righe del registro illeggibili, saltate: %1</source>
+        <translation>Unreadable lines of the log, skipped: %1</translation>
+    </message>
+    <message>
+        <source>Nessuna partita registrata con questa lingua e questo tempo.</source>
+        <translation>No match logged with this language and match time.</translation>
+    </message>
+    <message>
+        <source>nessuno</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>Partite giocate: %1    Miglior punteggio: %2    Punteggio medio: %3</source>
+        <translation>Matches played: %1    Best score: %2    Average score: %3</translation>
+    </message>
+    <message>
+        <source>Nessun livello scelto</source>
+        <translation>No level chosen</translation>
+    </message>
+    <message>
+        <source>Totale</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>Svuotare il registro delle partite? Le statistiche di tutte le partite giocate andranno perse.</source>
+        <translation>Empty the match log? The statistics of every match played will be lost.</translation>
+    </message>
+    <message>
+        <source>Errore 0007: impossibile svuotare il registro delle partite %1 nella posizione: %2 (%3).</source>
+        <translation>Error 0007: cannot empty the match log %1 in the folder: %2 (%3).</translation>
+    </message>
+    <message>
+        <source>Statistiche</source>
+        <translation>Statistics</translation>
     </message>
 </context>
 <context>

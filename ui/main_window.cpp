@@ -20,6 +20,7 @@
 #include "ui/path_overlay.h"
 #include "ui/records_flow.h"
 #include "ui/sharp_picture.h"
+#include "ui/statistics_window.h"
 #include "ui/time_bar.h"
 #include "ui/twips.h"
 
@@ -230,6 +231,8 @@ void MainWindow::wireMenu() {
     connect(m_menu.nuovo, &QAction::triggered, this, &MainWindow::nuovaPartita);
     connect(m_menu.fine, &QAction::triggered, this, &MainWindow::quit);
     connect(m_menu.records, &QAction::triggered, this, [this] { m_records->fromMenu(); });
+    connect(m_menu.statistiche, &QAction::triggered, this,
+            [this] { StatisticsWindow::open(this, m_services, m_state); });
     connect(m_menu.paroleAmmesse, &QAction::triggered, this, &MainWindow::showRules);
     m_options->wire(this);
 }

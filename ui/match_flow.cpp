@@ -19,7 +19,8 @@ MatchFlow::MatchFlow(QWidget& mainWindow, GameState& state, BoardGame& board, QT
                      RecordsFlow& records, const Services& services, Screen screen)
     : m_main(mainWindow), m_state(state), m_board(board), m_timer1(timer1), m_timer2(timer2),
       m_sounds(sounds), m_messages(messages), m_options(options), m_records(records),
-      m_services(services), m_screen(std::move(screen)) {}
+      m_services(services), m_screen(std::move(screen)),
+      m_matchLog(services.alerts, services.folder) {}
 
 void MatchFlow::startPartita() {
     m_timer1.stop();
@@ -76,6 +77,8 @@ void MatchFlow::endOfMatch() {
         m_endOfMatch->setPicture(m_screen.pictures, "griglione.gif");
     }
     m_endOfMatch->hide();
+    // On the disk before the result says the match is over. The last argument is the board's code.
+    m_matchLog.matchEnded(m_state, m_options.levelChecks(), "");
     const auto [player, cpu] = m_screen.scores();
     m_endOfMatch->showResult(m_screen.playerName(), player, cpu, m_options.levelChecks());
     m_records.afterMatch();

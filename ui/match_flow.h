@@ -6,6 +6,7 @@
 #include "core/game_state.h"
 #include "core/ports.h"
 #include "platform/picture_book.h"
+#include "ui/match_log_writer.h"
 
 #include <QString>
 
@@ -33,7 +34,7 @@ public:
         QLabel& seconds;
         std::function<QString()> playerName;
         std::function<std::pair<int, int>()> scores; // as the two score labels show them
-        const PictureBook& pictures; // the logo of the end-of-match window
+        const PictureBook& pictures;                 // the logo of the end-of-match window
         std::function<void()> focusBoard;
     };
 
@@ -66,6 +67,7 @@ private:
     RecordsFlow& m_records;
     const Services& m_services;
     Screen m_screen;
+    MatchLogWriter m_matchLog;
     EndOfMatchWindow* m_endOfMatch = nullptr;
     bool m_inClockTick = false;
 };

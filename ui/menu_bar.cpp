@@ -52,6 +52,7 @@ MenuActions buildMenuBar(QMenuBar* bar) {
     file->setObjectName("MenuFile");
     a.nuovo = item(file, MenuBar::tr("&Nuova Partita"), "menuNuovo", Qt::Key_F2);
     a.records = item(file, MenuBar::tr("&Tabella records ..."), "MenuHI", Qt::Key_F5);
+    a.statistiche = item(file, MenuBar::tr("&Statistiche ..."), "MenuStatistiche", Qt::Key_F8);
     a.vocabolario =
         item(file, MenuBar::tr("&Edit vocabolario personale ..."), "menuVocabola", Qt::Key_F6);
     separator(file, "menum");

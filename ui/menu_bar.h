@@ -13,6 +13,7 @@ namespace griglione {
 struct MenuActions {
     QAction* nuovo = nullptr;
     QAction* records = nullptr;
+    QAction* statistiche = nullptr;
     QAction* vocabolario = nullptr;
     QAction* vocabolarioPrincipale = nullptr;
     QAction* fine = nullptr;
