@@ -48,6 +48,16 @@ void MatchFlow::restartAfterSettingChange() {
     m_screen.focusBoard();
 }
 
+void MatchFlow::startOnBoard(const SharedBoard& board) {
+    startPartita();
+    m_board.lanciaTabellone(board);
+    m_board.azzeraParola();
+    m_state.secondiTrascorsi = 0;
+    m_timer1.start();
+    m_timer2.start();
+    m_screen.focusBoard();
+}
+
 void MatchFlow::clockTick() {
     // A tick that falls due while an earlier one waits for a modal window is dropped.
     if (m_inClockTick) return;
@@ -71,6 +81,7 @@ void MatchFlow::endOfMatch() {
         ReviewWindow* review = nullptr;
         m_endOfMatch->setReviewOpener([this, review]() mutable {
             if (!review) review = new ReviewWindow(m_endOfMatch);
+            if (m_reviewExtra) m_reviewExtra(*review);
             review->showBoard(m_state, m_services.folder);
         });
         m_endOfMatch->setPicture(m_screen.pictures, "griglione.gif");

@@ -22,6 +22,7 @@ class EndOfMatchWindow;
 class MessageHost;
 class OptionsFlow;
 class RecordsFlow;
+class ReviewWindow;
 class TimeBar;
 struct Services;
 
@@ -33,7 +34,7 @@ public:
         QLabel& seconds;
         std::function<QString()> playerName;
         std::function<std::pair<int, int>()> scores; // as the two score labels show them
-        const PictureBook& pictures; // the logo of the end-of-match window
+        const PictureBook& pictures;                 // the logo of the end-of-match window
         std::function<void()> focusBoard;
     };
 
@@ -49,6 +50,12 @@ public:
     void restartAfterSettingChange();
     void clockTick();
     void diePressed(int n, int button);
+    // The announcement, then a match on exactly `board`.
+    void startOnBoard(const SharedBoard& board);
+    // Runs on the review window before every opening: what it adds to it.
+    void setReviewExtra(std::function<void(ReviewWindow&)> extra) {
+        m_reviewExtra = std::move(extra);
+    }
     // Before a vocabulary editor opens: the match is dropped for the blank board, clock stopped.
     void abandon();
 
@@ -66,6 +73,7 @@ private:
     RecordsFlow& m_records;
     const Services& m_services;
     Screen m_screen;
+    std::function<void(ReviewWindow&)> m_reviewExtra;
     EndOfMatchWindow* m_endOfMatch = nullptr;
     bool m_inClockTick = false;
 };
