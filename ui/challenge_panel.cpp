@@ -14,6 +14,8 @@ QPushButton* button(QWidget* parent, const QString& text, const char* name) {
     auto* b = new QPushButton(text, parent);
     b->setObjectName(name);
     b->setAutoDefault(false);
+    // As tall as the review's own buttons, with room around the text.
+    b->setMinimumSize(b->sizeHint().width() + 16, 28);
     return b;
 }
 
