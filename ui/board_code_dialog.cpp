@@ -38,7 +38,7 @@ BoardCodeDialog::BoardCodeDialog(const QString& current, QWidget* parent) : QDia
         // Any board can be passed on: this is the code of the one on the dice now.
         auto* mine = new QLabel(tr("Il tabellone in gioco ha il codice %1").arg(current), this);
         mine->setObjectName("LabelInGioco");
-        mine->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        mine->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
         mine->setWordWrap(true);
         layout->addWidget(mine);
     }

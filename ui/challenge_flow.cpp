@@ -10,13 +10,14 @@
 #include <QClipboard>
 #include <QDate>
 #include <QGuiApplication>
+#include <QTimer>
 
 namespace griglione {
 
-ChallengeFlow::ChallengeFlow(QWidget& main, GameState& state, Outside& outside, Alerts& alerts,
-                             Hooks hooks)
-    : QObject(&main), m_main(main), m_state(state), m_outside(outside), m_alerts(alerts),
-      m_hooks(std::move(hooks)), m_today([] {
+ChallengeFlow::ChallengeFlow(QWidget& main, GameState& state, QTimer& timer1, QTimer& timer2,
+                             Outside& outside, Alerts& alerts, Hooks hooks)
+    : QObject(&main), m_main(main), m_state(state), m_timer1(timer1), m_timer2(timer2),
+      m_outside(outside), m_alerts(alerts), m_hooks(std::move(hooks)), m_today([] {
           const QDate today = QDate::currentDate();
           return CivilDate{today.year(), today.month(), today.day()};
       }) {}
@@ -27,8 +28,17 @@ void ChallengeFlow::wire(const MenuActions& menu) {
 }
 
 void ChallengeFlow::playBoard() {
+    // Finding and pasting a link takes a while: the clock and the opponent wait for it.
+    const bool running = m_timer1.isActive();
+    m_timer1.stop();
+    m_timer2.stop();
     BoardCodeDialog dialog(QString::fromStdString(m_state.codiceTabellone), &m_main);
-    if (dialog.exec() == QDialog::Accepted && dialog.board()) play(*dialog.board(), false);
+    if (dialog.exec() == QDialog::Accepted && dialog.board()) {
+        play(*dialog.board(), false);
+    } else if (running) {
+        m_timer1.start();
+        m_timer2.start();
+    }
 }
 
 bool ChallengeFlow::playText(const QString& text) {

@@ -14,6 +14,7 @@
 
 #include <functional>
 
+class QTimer;
 class QWidget;
 
 namespace griglione {
@@ -35,10 +36,11 @@ public:
         std::function<QString()> playerName;
     };
 
-    ChallengeFlow(QWidget& main, GameState& state, Outside& outside, Alerts& alerts, Hooks hooks);
+    ChallengeFlow(QWidget& main, GameState& state, QTimer& timer1, QTimer& timer2, Outside& outside,
+                  Alerts& alerts, Hooks hooks);
 
     void wire(const MenuActions& menu);
-    // Asks for a code or link and plays its board.
+    // Asks for a code or link and plays its board; the match in play waits meanwhile.
     void playBoard();
     // A code or link from the command line; a message when it names no board.
     bool playText(const QString& text);
@@ -54,6 +56,8 @@ private:
 
     QWidget& m_main;
     GameState& m_state;
+    QTimer& m_timer1;
+    QTimer& m_timer2;
     Outside& m_outside;
     Alerts& m_alerts;
     Hooks m_hooks;

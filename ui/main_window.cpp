@@ -105,11 +105,11 @@ MainWindow::MainWindow(Services services)
                 return std::pair{m_playerScore->text().toInt(), m_cpuScore->text().toInt()};
             },
             m_pictures, [this] { focusBoard(); }});
-    m_challenges =
-        new ChallengeFlow(*this, m_state, m_services.outside, m_services.alerts,
-                          {[this] { aggMenudiz(); }, [this] { salvaImpostazioni(); },
-                           [this](const SharedBoard& board) { m_match->startOnBoard(board); },
-                           [this] { return m_playerName->text(); }});
+    m_challenges = new ChallengeFlow(
+        *this, m_state, *m_timer1, *m_timer2, m_services.outside, m_services.alerts,
+        {[this] { aggMenudiz(); }, [this] { salvaImpostazioni(); },
+         [this](const SharedBoard& board) { m_match->startOnBoard(board); },
+         [this] { return m_playerName->text(); }});
     m_match->setReviewExtra([this](ReviewWindow& review) { m_challenges->addToReview(review); });
     wireMenu();
     new HelpLinks(this, m_menu, m_services.outside, m_services.alerts, m_messages,

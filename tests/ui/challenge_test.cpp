@@ -49,6 +49,7 @@ class ChallengeTest : public QObject {
     std::unique_ptr<GameHarness> game;
     QTimer answerer; // closes every announcement, noting it
     QStringList announced;
+    bool clockRanInDialog = false;
 
     GameState& state() { return game->window->state(); }
     void click(QWidget* window, const char* button) {
@@ -62,6 +63,7 @@ class ChallengeTest : public QObject {
     // Enters `text` in the play-a-board dialog and presses "Gioca".
     void playCode(const QString& text) {
         whenShown("FormTabellone", [=, this](QWidget* w) {
+            clockRanInDialog |= game->timer("Timer1")->isActive();
             child<QLineEdit>(w, "TextCodice")->setText(text);
             click(w, "CommandGioca");
         });
@@ -75,6 +77,7 @@ private slots:
         game->folder.write("SLESSICO.2", buildDictionaryFile("test", {{{"CAT"}}}));
         game->folder.write("ZarmPriv.1", "ASA\r\n");
         announced.clear();
+        clockRanInDialog = false;
         answerer.setInterval(5);
         connect(&answerer, &QTimer::timeout, this, [this] {
             for (QWidget* w : QApplication::topLevelWidgets())
@@ -140,6 +143,7 @@ private slots:
         playCode(QString("https://griglione.example.org/sfide/%1-%2?da=mail")
                      .arg(QString::fromStdString(code.substr(0, 10)).toLower(),
                           QString::fromStdString(code.substr(10))));
+        QVERIFY(!clockRanInDialog); // the Italian match waited while the link was pasted
         QCOMPARE(state().immagineCella, diceOf(english));
         QCOMPARE(state().codiceTabellone, code);
         QCOMPARE(state().numDizionario, 2);
