@@ -639,6 +639,10 @@ Click the &lt;OK&gt; button to play.</translation>
         <source>Codice del tabellone: %1</source>
         <translation>Board code: %1</translation>
     </message>
+    <message>
+        <source>Sfida su questo tabellone</source>
+        <translation>Challenge on this board</translation>
+    </message>
 </context>
 <context>
     <name>griglione::ConfirmWindow</name>

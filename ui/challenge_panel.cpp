@@ -23,6 +23,7 @@ QPushButton* button(QWidget* parent, const QString& text, const char* name) {
 
 ChallengePanel::ChallengePanel(QWidget* parent) : QWidget(parent) {
     setObjectName("challenge");
+    setAccessibleName(tr("Sfida su questo tabellone"));
     m_code = new QLabel(this);
     m_code->setObjectName("LabelCodice");
     m_code->setTextInteractionFlags(Qt::TextSelectableByMouse);
