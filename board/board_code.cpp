@@ -60,7 +60,7 @@ int symbolValue(char c) {
 }
 
 // Luhn's check over base 32: it catches any one symbol changed and any two neighbours swapped,
-// except the pair "0V" ↔ "V0" (0 and 31), which the Luhn scheme cannot tell apart.
+// except the pair "0Z" ↔ "Z0" (0 and 31), which the Luhn scheme cannot tell apart.
 char checkSymbol(std::string_view symbols) {
     int sum = 0;
     bool doubled = true;

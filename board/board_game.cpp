@@ -1,6 +1,7 @@
 #include "board/board_game.h"
 
 #include "board/board_layout.h"
+#include "core/match_clock.h"
 #include "core/player_text.h"
 
 namespace griglione {
@@ -11,12 +12,32 @@ BoardGame::BoardGame(GameState& state, Dealer& dealer, Sounds& sounds, Messages&
 
 void BoardGame::lanciaDadi(bool conLettere) {
     if (m_state.numDizionario == 0) m_state.numDizionario = 1;
+    clearForDeal();
+    // A board of the day's fixed length is over: the player's own length comes back.
+    ripristinaTempoPartita(m_state);
+    m_state.tabelloneCondiviso = false;
+    m_dealer.deal(m_state, conLettere);
+    showDeal();
+}
+
+void BoardGame::lanciaTabellone(const SharedBoard& board) {
+    clearForDeal();
+    m_state.tabelloneCondiviso = true;
+    placeBoard(m_state, board);
+    showDeal();
+}
+
+void BoardGame::clearForDeal() {
     azzeraParola();
     m_state.paroleGiocatore.clear();
     m_state.paroleCPU.clear();
+    m_state.paroleDizionario.clear();
     m_state.puntiGiocatore = 0;
     m_state.puntiCPU = 0;
-    m_dealer.deal(m_state, conLettere);
+}
+
+void BoardGame::showDeal() {
+    m_state.codiceTabellone = boardCode(m_state);
     m_path.hideAll();
     m_view.changed(Aspect::PlayerWords);
     m_view.changed(Aspect::CpuWords);

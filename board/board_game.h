@@ -2,6 +2,7 @@
 // die, clearing.
 #pragma once
 
+#include "board/board_code.h"
 #include "board/dealer.h"
 #include "board/path.h"
 #include "board/typed_trace.h"
@@ -29,6 +30,10 @@ public:
     // lists, zeroes both scores and clears the traced word and the time bar.
     void lanciaDadi(bool conLettere);
 
+    // A deal that puts exactly `board` on the dice (its language becomes the match's), with
+    // everything else a deal does.
+    void lanciaTabellone(const SharedBoard& board);
+
     // Clears the traced word, its marks on the dice and the time bar.
     void azzeraParola();
 
@@ -51,6 +56,8 @@ public:
     const Path& path() const { return m_path; }
 
 private:
+    void clearForDeal();
+    void showDeal();
     void turnDie(int n);
     CellLetters letters() const;
     void showTrace(const std::vector<int>& cells);

@@ -87,6 +87,7 @@ void WordSubmission::inviaParola() {
     }
 
     const std::string answer = m_dictionary.verificaParola(parola);
+    const bool dalPrincipale = answer != "NO" && m_dictionary.ultimaDalPrincipale();
     setBusy(false);
     if (answer == "NO") {
         m_sounds.suona("perdi.wav");
@@ -95,14 +96,14 @@ void WordSubmission::inviaParola() {
             m_files.closeAll();
             m_dictionary.aggiungiAlVocabolario(parola);
         }
-        if (m_state.rispostaConferma == 1) accept();
+        if (m_state.rispostaConferma == 1) accept(false);
     } else {
-        accept();
+        accept(dalPrincipale);
     }
     m_board.azzeraParola();
 }
 
-void WordSubmission::accept() {
+void WordSubmission::accept(bool dalPrincipale) {
     const std::string& parola = m_state.parolaDaConfermare;
     const std::int32_t points = punteggioParola(parola.size());
     m_state.puntiGiocatore += points;
@@ -114,6 +115,7 @@ void WordSubmission::accept() {
                    {std::to_string(points)})});
     m_view.changed(Aspect::Scores);
     m_state.paroleGiocatore.push_back(lowerAscii(parola));
+    if (dalPrincipale) m_state.paroleDizionario.push_back(lowerAscii(parola));
     m_view.changed(Aspect::PlayerWords);
 }
 

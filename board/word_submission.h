@@ -31,7 +31,8 @@ public:
 private:
     void setBusy(bool busy);
     void show(Messaggio messaggio);
-    void accept();
+    // `dalPrincipale`: the main dictionary knows the word, so it counts in a challenge.
+    void accept(bool dalPrincipale);
 
     GameState& m_state;
     BoardGame& m_board;

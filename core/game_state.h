@@ -59,6 +59,17 @@ struct GameState {
     // Found words in lower case, in the order found: the player's and the computer's lists.
     std::vector<std::string> paroleGiocatore;
     std::vector<std::string> paroleCPU;
+    // The player's words that the main dictionary knows, in lower case: only these count in a
+    // challenge, where the service checks each word against its own copy of that dictionary.
+    std::vector<std::string> paroleDizionario;
+
+    // The code of the board as dealt, taken at the deal (a turned die changes the board later);
+    // empty for the blank board.
+    std::string codiceTabellone;
+    // True when the board in play came from a code or is the board of the day.
+    bool tabelloneCondiviso = false;
+    // The player's own match length while a day's match runs on its fixed length; 0 otherwise.
+    std::int16_t tempoSalvato = 0;
 
     // The word being submitted and the answer of the unknown-word confirmation.
     std::string parolaDaConfermare;

@@ -11,6 +11,21 @@ bool countSecond(GameState& state) {
     return state.secondiTrascorsi > state.tempoPartita;
 }
 
+void fissaTempoPartita(GameState& state, int seconds) {
+    if (state.tempoSalvato == 0) state.tempoSalvato = state.tempoPartita;
+    state.tempoPartita = static_cast<std::int16_t>(seconds);
+}
+
+void ripristinaTempoPartita(GameState& state) {
+    if (state.tempoSalvato == 0) return;
+    state.tempoPartita = state.tempoSalvato;
+    state.tempoSalvato = 0;
+}
+
+int tempoDelGiocatore(const GameState& state) {
+    return state.tempoSalvato != 0 ? state.tempoSalvato : state.tempoPartita;
+}
+
 int timeBarWidth(int innerWidth, int tempoPartita, int seconds) {
     if (tempoPartita <= 0) return 0;
     const double x = static_cast<double>(innerWidth) / tempoPartita * seconds;

@@ -12,6 +12,14 @@ namespace griglione {
 // 60-second match ends on its 61st tick.
 bool countSecond(GameState& state);
 
+// A match of `seconds` that leaves the player's own length to be saved and to come back at the
+// next deal: the board of the day is played for a fixed time.
+void fissaTempoPartita(GameState& state, int seconds);
+// Gives the player's own length back after a fixed-length match; nothing otherwise.
+void ripristinaTempoPartita(GameState& state);
+// The length the settings file keeps: the player's own, also during a fixed-length match.
+int tempoDelGiocatore(const GameState& state);
+
 // Width of the dark-blue time bar after `seconds` of a `tempoPartita`-second match.
 int timeBarWidth(int innerWidth, int tempoPartita, int seconds);
 

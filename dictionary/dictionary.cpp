@@ -73,7 +73,8 @@ bool Dictionary::trovaInDizionario(const std::string& parola) {
 }
 
 std::string Dictionary::verificaParola(const std::string& parola) {
-    if (trovaInDizionario(parola)) return "SI";
+    m_dalPrincipale = trovaInDizionario(parola);
+    if (m_dalPrincipale) return "SI";
     return personalVocabularyHas(personalVocabularyPath(), parola) ? "SI" : "NO";
 }
 

@@ -29,6 +29,9 @@ public:
 
     // The submission's check: the scan, then the personal vocabulary. "SI" or "NO".
     std::string verificaParola(const std::string& parola);
+    // True when the last `verificaParola` found its word in the main dictionary, not only in
+    // the personal vocabulary.
+    bool ultimaDalPrincipale() const { return m_dalPrincipale; }
 
     // The opponent's check: a binary search, then the personal vocabulary. "SI", "NO", "NO2"
     // (fewer than 3 letters), "BUSY" (its file was closed under it) or "" (no dictionary file).
@@ -52,6 +55,7 @@ private:
     std::function<void()> m_yield;
     std::filesystem::path m_folder;
     DictionaryIndex m_index;
+    bool m_dalPrincipale = false;
 };
 
 } // namespace griglione

@@ -261,6 +261,14 @@ Click the &lt;OK&gt; button to play.</translation>
         <source>&amp;Statistiche ...</source>
         <translation>&amp;Statistics ...</translation>
     </message>
+    <message>
+        <source>&amp;Gioca un tabellone…</source>
+        <translation>&amp;Play a board…</translation>
+    </message>
+    <message>
+        <source>Tabellone del gi&amp;orno</source>
+        <translation>Board of the &amp;day</translation>
+    </message>
 </context>
 <context>
     <name>NumberText</name>
@@ -532,6 +540,119 @@ Click the &lt;OK&gt; button to play.</translation>
     <message>
         <source>OOPS!</source>
         <translation>OOPS!</translation>
+    </message>
+</context>
+<context>
+    <name>griglione::BoardCodeDialog</name>
+    <message>
+        <source>Il Griglione - Gioca un tabellone</source>
+        <translation>Il Griglione - Play a board</translation>
+    </message>
+    <message>
+        <source>&amp;Codice del tabellone o link della sfida:</source>
+        <translation>Board code or challenge &amp;link:</translation>
+    </message>
+    <message>
+        <source>Codice del tabellone o link della sfida</source>
+        <translation>Board code or challenge link</translation>
+    </message>
+    <message>
+        <source>Errore nel codice</source>
+        <translation>Mistake in the code</translation>
+    </message>
+    <message>
+        <source>Il tabellone in gioco ha il codice %1</source>
+        <translation>The board in play has the code %1</translation>
+    </message>
+    <message>
+        <source>&amp;Gioca</source>
+        <translation>&amp;Play</translation>
+    </message>
+    <message>
+        <source>&amp;Annulla</source>
+        <translation>&amp;Cancel</translation>
+    </message>
+    <message>
+        <source>Scrivi il codice di un tabellone, o incolla il link di una sfida.</source>
+        <translation>Type the code of a board, or paste the link of a challenge.</translation>
+    </message>
+    <message>
+        <source>Un codice ha solo lettere e cifre: il testo contiene un carattere che nessun codice ha.</source>
+        <translation>A code has only letters and digits: the text holds a character that no code has.</translation>
+    </message>
+    <message>
+        <source>Il codice non ha la lunghezza giusta: 28 caratteri per un tabellone italiano, 30 per uno inglese o latino. Manca o avanza qualche carattere.</source>
+        <translation>The code is not the right length: 28 characters for an Italian board, 30 for an English or Latin one. A character is missing or one too many.</translation>
+    </message>
+    <message>
+        <source>Un codice comincia con la lingua del tabellone: 1 italiano, 2 inglese, 3 latino.</source>
+        <translation>A code begins with the board&apos;s language: 1 Italian, 2 English, 3 Latin.</translation>
+    </message>
+    <message>
+        <source>Il codice contiene un errore di battitura: controllalo carattere per carattere.</source>
+        <translation>The code has a typing slip: check it character by character.</translation>
+    </message>
+    <message>
+        <source>Questo codice non corrisponde a nessun tabellone.</source>
+        <translation>This code matches no board.</translation>
+    </message>
+</context>
+<context>
+    <name>griglione::ChallengeFlow</name>
+    <message>
+        <source>Il tabellone richiesto non si può giocare.</source>
+        <translation>The board asked for cannot be played.</translation>
+    </message>
+    <message>
+        <source>Copiato negli appunti: %1</source>
+        <translation>Copied to the clipboard: %1</translation>
+    </message>
+    <message>
+        <source>L&apos;indirizzo della sfida non può superare %1 caratteri: le %2 parole più corte restano fuori e non contano.</source>
+        <translation>The challenge&apos;s address cannot be longer than %1 characters: the %2 shortest words are left out and do not count.</translation>
+    </message>
+    <message>
+        <source>Partita inviata: il browser apre la tabella della sfida.</source>
+        <translation>Match sent: the browser opens the challenge&apos;s table.</translation>
+    </message>
+</context>
+<context>
+    <name>griglione::ChallengePanel</name>
+    <message>
+        <source>Copia c&amp;odice</source>
+        <translation>Copy co&amp;de</translation>
+    </message>
+    <message>
+        <source>Copia lin&amp;k</source>
+        <translation>Copy lin&amp;k</translation>
+    </message>
+    <message>
+        <source>&amp;Invia alla sfida</source>
+        <translation>&amp;Send to the challenge</translation>
+    </message>
+    <message>
+        <source>Copia il codice del tabellone</source>
+        <translation>Copy the board&apos;s code</translation>
+    </message>
+    <message>
+        <source>Copia il link della sfida</source>
+        <translation>Copy the challenge&apos;s link</translation>
+    </message>
+    <message>
+        <source>Invia la partita alla tabella della sfida</source>
+        <translation>Send the match to the challenge&apos;s table</translation>
+    </message>
+    <message>
+        <source>Codice: %1</source>
+        <translation>Code: %1</translation>
+    </message>
+    <message>
+        <source>Codice del tabellone: %1</source>
+        <translation>Board code: %1</translation>
+    </message>
+    <message>
+        <source>Sfida su questo tabellone</source>
+        <translation>Challenge on this board</translation>
     </message>
 </context>
 <context>

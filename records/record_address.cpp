@@ -11,6 +11,12 @@
 namespace griglione {
 namespace {
 
+std::string twoDigits(int n) {
+    return (n < 10 ? "0" : "") + std::to_string(n);
+}
+
+} // namespace
+
 std::string percentEncoded(std::string_view bytes) {
     static constexpr char kHex[] = "0123456789ABCDEF";
     std::string out;
@@ -27,12 +33,6 @@ std::string percentEncoded(std::string_view bytes) {
     }
     return out;
 }
-
-std::string twoDigits(int n) {
-    return (n < 10 ? "0" : "") + std::to_string(n);
-}
-
-} // namespace
 
 std::string cmbS(std::string& t) {
     for (char& c : t)

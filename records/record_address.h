@@ -5,8 +5,12 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace griglione {
+
+// `bytes` with every byte outside A-Z a-z 0-9 "-._~" written as "%" and two capital hex digits.
+std::string percentEncoded(std::string_view bytes);
 
 // Replaces every blank, "%", "$", "&", "!" and "=" of `t` with "_", in place, and returns it.
 std::string cmbS(std::string& t);

@@ -8,6 +8,7 @@
 #include "records/record_address.h"
 #include "ui/alert_boxes.h"
 #include "ui/board_keys.h"
+#include "ui/challenge_flow.h"
 #include "ui/colours.h"
 #include "ui/control_names.h"
 #include "ui/die_cell.h"
@@ -105,6 +106,12 @@ MainWindow::MainWindow(Services services)
                 return std::pair{m_playerScore->text().toInt(), m_cpuScore->text().toInt()};
             },
             m_pictures, [this] { focusBoard(); }});
+    m_challenges = new ChallengeFlow(
+        *this, m_state, *m_timer1, *m_timer2, m_services.outside, m_services.alerts,
+        {[this] { aggMenudiz(); }, [this] { salvaImpostazioni(); },
+         [this](const SharedBoard& board) { m_match->startOnBoard(board); },
+         [this] { return m_playerName->text(); }});
+    m_match->setReviewExtra([this](ReviewWindow& review) { m_challenges->addToReview(review); });
     wireMenu();
     new HelpLinks(this, m_menu, m_services.outside, m_services.alerts, m_messages,
                   m_services.folder);
@@ -235,6 +242,7 @@ void MainWindow::wireMenu() {
             [this] { StatisticsWindow::open(this, m_services, m_state); });
     connect(m_menu.paroleAmmesse, &QAction::triggered, this, &MainWindow::showRules);
     m_options->wire(this);
+    m_challenges->wire(m_menu);
 }
 
 void MainWindow::showEvent(QShowEvent* event) {

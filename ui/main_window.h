@@ -36,6 +36,7 @@ class QToolButton;
 namespace griglione {
 
 class BoardKeys;
+class ChallengeFlow;
 class DieCell;
 class EditorFlow;
 class MatchFlow;
@@ -77,6 +78,7 @@ public:
     GameState& state() { return m_state; }
     const MenuActions& menu() const { return m_menu; }
     MessageHost& messages() { return m_messages; }
+    ChallengeFlow& challenges() { return *m_challenges; }
 
     void changed(Aspect aspect) override;
     void setBusy(bool busy) override;
@@ -114,6 +116,7 @@ private:
     std::unique_ptr<RecordsFlow> m_records;
     std::unique_ptr<MatchFlow> m_match;
     std::unique_ptr<EditorFlow> m_editors;
+    ChallengeFlow* m_challenges = nullptr;
     BoardKeys* m_keys = nullptr;
 
     std::array<DieCell*, kCells> m_cells{};

@@ -49,6 +49,16 @@ void MatchFlow::restartAfterSettingChange() {
     m_screen.focusBoard();
 }
 
+void MatchFlow::startOnBoard(const SharedBoard& board) {
+    startPartita();
+    m_board.lanciaTabellone(board);
+    m_board.azzeraParola();
+    m_state.secondiTrascorsi = 0;
+    m_timer1.start();
+    m_timer2.start();
+    m_screen.focusBoard();
+}
+
 void MatchFlow::clockTick() {
     // A tick that falls due while an earlier one waits for a modal window is dropped.
     if (m_inClockTick) return;
@@ -72,13 +82,14 @@ void MatchFlow::endOfMatch() {
         ReviewWindow* review = nullptr;
         m_endOfMatch->setReviewOpener([this, review]() mutable {
             if (!review) review = new ReviewWindow(m_endOfMatch);
+            if (m_reviewExtra) m_reviewExtra(*review);
             review->showBoard(m_state, m_services.folder);
         });
         m_endOfMatch->setPicture(m_screen.pictures, "griglione.gif");
     }
     m_endOfMatch->hide();
     // On the disk before the result says the match is over. The last argument is the board's code.
-    m_matchLog.matchEnded(m_state, m_options.levelChecks(), "");
+    m_matchLog.matchEnded(m_state, m_options.levelChecks(), m_state.codiceTabellone);
     const auto [player, cpu] = m_screen.scores();
     m_endOfMatch->showResult(m_screen.playerName(), player, cpu, m_options.levelChecks());
     m_records.afterMatch();

@@ -23,6 +23,7 @@ class EndOfMatchWindow;
 class MessageHost;
 class OptionsFlow;
 class RecordsFlow;
+class ReviewWindow;
 class TimeBar;
 struct Services;
 
@@ -50,6 +51,12 @@ public:
     void restartAfterSettingChange();
     void clockTick();
     void diePressed(int n, int button);
+    // The announcement, then a match on exactly `board`.
+    void startOnBoard(const SharedBoard& board);
+    // Runs on the review window before every opening: what it adds to it.
+    void setReviewExtra(std::function<void(ReviewWindow&)> extra) {
+        m_reviewExtra = std::move(extra);
+    }
     // Before a vocabulary editor opens: the match is dropped for the blank board, clock stopped.
     void abandon();
 
@@ -68,6 +75,7 @@ private:
     const Services& m_services;
     Screen m_screen;
     MatchLogWriter m_matchLog;
+    std::function<void(ReviewWindow&)> m_reviewExtra;
     EndOfMatchWindow* m_endOfMatch = nullptr;
     bool m_inClockTick = false;
 };

@@ -51,6 +51,8 @@ MenuActions buildMenuBar(QMenuBar* bar) {
     QMenu* file = bar->addMenu(MenuBar::tr("&File"));
     file->setObjectName("MenuFile");
     a.nuovo = item(file, MenuBar::tr("&Nuova Partita"), "menuNuovo", Qt::Key_F2);
+    a.tabellone = item(file, MenuBar::tr("&Gioca un tabellone…"), "MenuTabellone", Qt::Key_F3);
+    a.giorno = item(file, MenuBar::tr("Tabellone del gi&orno"), "MenuGiorno", Qt::Key_F9);
     a.records = item(file, MenuBar::tr("&Tabella records ..."), "MenuHI", Qt::Key_F5);
     a.statistiche = item(file, MenuBar::tr("&Statistiche ..."), "MenuStatistiche", Qt::Key_F8);
     a.vocabolario =

@@ -12,6 +12,8 @@ namespace griglione {
 
 struct MenuActions {
     QAction* nuovo = nullptr;
+    QAction* tabellone = nullptr; // a board by its code or a challenge link
+    QAction* giorno = nullptr;    // the board of the day
     QAction* records = nullptr;
     QAction* statistiche = nullptr;
     QAction* vocabolario = nullptr;

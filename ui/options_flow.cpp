@@ -3,6 +3,7 @@
 #include "core/atomic_file.h"
 #include "core/file_names.h"
 #include "core/levels.h"
+#include "core/match_clock.h"
 #include "ui/name_validator.h"
 
 #include <QCoreApplication>
@@ -56,7 +57,7 @@ Settings OptionsFlow::currentSettings() const {
     Settings settings;
     settings.timer2Interval = m_timer2.interval();
     settings.sound = m_menu.suono->isChecked();
-    settings.tempoPartita = m_state.tempoPartita;
+    settings.tempoPartita = tempoDelGiocatore(m_state);
     settings.playerName = m_playerName.text().toStdString();
     settings.spessoreLinea = m_state.spessoreLinea;
     settings.numDizionario = m_state.numDizionario;
@@ -82,6 +83,7 @@ std::array<bool, 4> OptionsFlow::levelChecks() const {
 
 void OptionsFlow::chooseMatchLength(std::size_t item) {
     checkOnly(m_menu.tempi, item);
+    ripristinaTempoPartita(m_state);
     m_state.tempoPartita = static_cast<std::int16_t>(kMatchLengths[item].seconds);
     salvaImpostazioni();
     m_hooks.restartMatch();

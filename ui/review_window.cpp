@@ -78,6 +78,13 @@ void ReviewWindow::showBoard(const GameState& state, const std::filesystem::path
     exec();
 }
 
+void ReviewWindow::setFooter(QWidget* footer, bool shown) {
+    if (footer->parentWidget() != this) footer->setParent(this);
+    footer->setGeometry(0, kHeight, kWidth, footer->sizeHint().height());
+    footer->setVisible(shown);
+    setFixedSize(kWidth, kHeight + (shown ? footer->height() : 0));
+}
+
 void ReviewWindow::buildBoard() {
     auto* board = new QWidget(this);
     board->setObjectName("board");

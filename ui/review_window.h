@@ -36,6 +36,10 @@ public:
     // `load`, then the review modally over its parent; returns when it is closed.
     void showBoard(const GameState& state, const std::filesystem::path& folder);
 
+    // A strip below the review (the code of a shared board and its buttons); the window grows
+    // by its height while it is shown.
+    void setFooter(QWidget* footer, bool shown);
+
 private:
     void buildBoard();
     void buildLists();

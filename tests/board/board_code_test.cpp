@@ -1,4 +1,5 @@
 // Board codes, the board of the day, the dates they hang on and the packed challenge words.
+#include "board/board_argument.h"
 #include "board/board_code.h"
 #include "board/board_layout.h"
 #include "board/day_board.h"
@@ -200,6 +201,23 @@ TEST(ChallengeWords, PacksSortedSharedPrefixesAndRefusesWhatCannotBeUnpacked) {
     for (const char* wrong :
          {"CASA", "0CASA5X", "0CASA4", "0CASA0CASA", "0MARE0CASA", "0CA SA", "0casa", "0CASA3E-"})
         EXPECT_FALSE(unpackWords(wrong)) << wrong;
+}
+
+TEST(BoardArgument, FindsTheBoardAskedForOnTheCommandLine) {
+    using Line = std::vector<std::string>;
+    const std::vector<std::pair<Line, std::optional<std::string>>> cases = {
+        {{}, std::nullopt},
+        {{"--tabellone", "10PE"}, "10PE"},
+        {{"--tabellone=10PE"}, "10PE"},
+        {{"--tabellone"}, ""}, // asked for, but no code: the player hears why
+        {{"GRIGLIONE:10PE"}, "GRIGLIONE:10PE"},
+        {{"griglione://10PE/"}, "griglione://10PE/"},
+        {{"griglione"}, std::nullopt},
+        {{"--tabellonex", "10PE"}, std::nullopt},
+        {{"--tabellone", "griglione:10PE", "griglione:20AB"}, "griglione:20AB"},
+    };
+    for (const auto& [line, asked] : cases)
+        EXPECT_EQ(boardArgument(line), asked) << ::testing::PrintToString(line);
 }
 
 } // namespace

@@ -85,7 +85,7 @@ private slots:
         QCOMPARE(lines.size(), 3);
         QCOMPARE(lines[0] + "\r\n", QString::fromUtf8(kMatchLogHeader));
         QVERIFY(QRegularExpression(
-                    "^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d\ten\t1\tMemo\t\t1000\t1500\t4\t1\t"
+                    "^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d\ten\t1\tMemo\t[0-9A-Z]{30}\t1000\t1500\t4\t1\t"
                     "tavolo\t1\t1\t0\t2\t0\t0\t0\t0$")
                     .match(lines[1])
                     .hasMatch());
