@@ -7,6 +7,7 @@
 #include "platform/fonts.h"
 #include "records/record_address.h"
 #include "ui/alert_boxes.h"
+#include "ui/announcer.h"
 #include "ui/board_keys.h"
 #include "ui/colours.h"
 #include "ui/control_names.h"
@@ -75,7 +76,10 @@ MainWindow::MainWindow(Services services)
     m_timer1 = new QTimer(this);
     m_timer1->setObjectName("Timer1");
     m_timer1->setInterval(1000);
-    connect(m_timer1, &QTimer::timeout, this, [this] { m_match->clockTick(); });
+    connect(m_timer1, &QTimer::timeout, this, [this] {
+        m_match->clockTick();
+        if (m_timer1->isActive()) m_announcer->tick();
+    });
     m_timer2 = new QTimer(this);
     m_timer2->setObjectName("Timer2");
     m_timer2->setInterval(200);
@@ -120,9 +124,18 @@ MainWindow::MainWindow(Services services)
 MainWindow::~MainWindow() = default;
 
 void MainWindow::buildControls() {
+    m_announcer = new Announcer(*this, m_state);
     m_keys = new BoardKeys(
-        m_board, [this] { return m_timer1->isActive(); }, this);
+        m_board, [this] { return m_timer1->isActive(); },
+        [this](PressResult result, char letter) { m_announcer->traced(result, letter); },
+        [this] { m_messages.chiudi(); }, this);
     m_messages.setKeyWatcher(m_keys);
+    // A word's message is told, not shown in the player's way.
+    m_messages.setNewsHandler([this](const Messaggio& messaggio) {
+        if (!m_timer1->isActive()) return false;
+        m_announcer->outcome(messaggio);
+        return true;
+    });
     auto* area = new QWidget(this);
     area->setObjectName("client");
     area->setAutoFillBackground(true);
@@ -155,11 +168,15 @@ void MainWindow::buildControls() {
         auto* cell = new DieCell(n, area);
         cell->setGeometry(
             cell0.translated((n % kBoardSide) * cell0.width(), (n / kBoardSide) * cell0.height()));
-        connect(cell, &DieCell::pressed, this,
-                [this](int die, int button) { m_match->diePressed(die, button); });
+        connect(cell, &DieCell::pressed, this, [this](int die, int button) {
+            m_announcer->traced(m_match->diePressed(die, button), '\0');
+        });
         m_keys->watch(cell);
         connect(cell, &DieCell::enterPressed, this, [this] { m_submission->inviaParola(); });
-        connect(cell, &DieCell::escapePressed, this, [this] { m_board.azzera(); });
+        connect(cell, &DieCell::escapePressed, this, [this] {
+            m_board.azzera();
+            m_announcer->traced(PressResult::Selected, '\0');
+        });
         m_cells[n] = cell;
     }
     m_pathOverlay = new PathOverlay(m_board.path(), cell0.size(), area);
@@ -308,7 +325,7 @@ void MainWindow::showRules() {
     if (m_playerName->isVisible()) m_playerName->setFocus();
     m_state.messaggio = {tr("INFO!").toStdString(), tr("Informazioni dizionario").toStdString(),
                          rules};
-    m_messages.mostraMessaggio(m_state.messaggio, false);
+    m_messages.showToRead(m_state.messaggio);
 }
 
 void MainWindow::quit() {
@@ -337,6 +354,7 @@ void MainWindow::changed(Aspect aspect) {
         break;
     case Aspect::CpuWords:
         showWords(m_cpuWords, m_state.paroleCPU);
+        m_announcer->opponentFound();
         break;
     case Aspect::Scores:
         setValueText(m_playerScore, QString::number(m_state.puntiGiocatore));
@@ -378,6 +396,16 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
         }
     }
     return QMainWindow::eventFilter(watched, event);
+}
+
+// Back from another window while the match runs, the keys go to the board again, wherever the
+// focus was left before (the rules put it in the name box).
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && m_timer1->isActive())
+        QTimer::singleShot(0, this, [this] {
+            if (isActiveWindow() && m_timer1->isActive()) focusBoard();
+        });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -35,6 +35,7 @@ class QToolButton;
 
 namespace griglione {
 
+class Announcer;
 class BoardKeys;
 class DieCell;
 class EditorFlow;
@@ -84,6 +85,7 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
@@ -115,6 +117,7 @@ private:
     std::unique_ptr<MatchFlow> m_match;
     std::unique_ptr<EditorFlow> m_editors;
     BoardKeys* m_keys = nullptr;
+    Announcer* m_announcer = nullptr;
 
     std::array<DieCell*, kCells> m_cells{};
     QLabel* m_word = nullptr;             // Label1

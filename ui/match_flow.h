@@ -33,7 +33,7 @@ public:
         QLabel& seconds;
         std::function<QString()> playerName;
         std::function<std::pair<int, int>()> scores; // as the two score labels show them
-        const PictureBook& pictures; // the logo of the end-of-match window
+        const PictureBook& pictures;                 // the logo of the end-of-match window
         std::function<void()> focusBoard;
     };
 
@@ -48,7 +48,7 @@ public:
     // A new match length or language: the announcement, then a new board.
     void restartAfterSettingChange();
     void clockTick();
-    void diePressed(int n, int button);
+    PressResult diePressed(int n, int button);
     // Before a vocabulary editor opens: the match is dropped for the blank board, clock stopped.
     void abandon();
 
