@@ -43,10 +43,10 @@ std::string Announcements::outcome(const std::string& heading, const std::string
                       nowMs);
 }
 
-std::string Announcements::secondsLeft(int tempoPartita, int secondiTrascorsi) const {
+std::string Announcements::secondsLeft(int tempoPartita, int secondiTrascorsi, std::int64_t nowMs) {
     const int left = tempoPartita - secondiTrascorsi;
     if (secondiTrascorsi <= 0 || (left != 30 && left != 10 && left != 5)) return {};
-    return withArgs(playerText(kContext, "Mancano %1 secondi"), {number(left)});
+    return playerNews(withArgs(playerText(kContext, "Mancano %1 secondi"), {number(left)}), nowMs);
 }
 
 void Announcements::opponentFound(int count) {
@@ -69,7 +69,7 @@ std::optional<std::string> Announcements::opponentNews(std::int64_t nowMs) {
 
 std::string Announcements::endOfMatch(const std::string& result, const std::string& player,
                                       int playerScore, const std::string& opponent, int cpuScore) {
-    return withArgs(playerText(kContext, "Tempo scaduto. %1 %2 %3, %4 %5."),
+    return withArgs(playerText(kContext, "%1 %2 %3, %4 %5."),
                     {result, player, points(playerScore), opponent, points(cpuScore)});
 }
 

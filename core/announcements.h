@@ -26,14 +26,14 @@ public:
     std::string outcome(const std::string& heading, const std::string& parola, int playerScore,
                         std::int64_t nowMs);
     // Once a second: "Mancano 30 secondi" at 30, 10 and 5 seconds left, nothing otherwise.
-    std::string secondsLeft(int tempoPartita, int secondiTrascorsi) const;
+    std::string secondsLeft(int tempoPartita, int secondiTrascorsi, std::int64_t nowMs);
 
     // The opponent's list has grown to `count` words; told later by opponentNews.
     void opponentFound(int count);
     // The opponent's count when it is due: "Tobia (CPU): 3 parole".
     std::optional<std::string> opponentNews(std::int64_t nowMs);
 
-    // "Tempo scaduto. Ha vinto BRIVO! BRIVO 820 punti, Memo (CPU) 640 punti."
+    // "Ha vinto BRIVO! BRIVO 820 punti, Memo (CPU) 640 punti."
     static std::string endOfMatch(const std::string& result, const std::string& player,
                                   int playerScore, const std::string& opponent, int cpuScore);
 

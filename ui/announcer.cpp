@@ -29,7 +29,8 @@ void Announcer::opponentFound() {
 }
 
 void Announcer::tick() {
-    if (const std::string left = m_news.secondsLeft(m_state.tempoPartita, m_state.secondiTrascorsi);
+    if (const std::string left =
+            m_news.secondsLeft(m_state.tempoPartita, m_state.secondiTrascorsi, m_clock.elapsed());
         !left.empty())
         say(left);
     else if (auto text = m_news.opponentNews(m_clock.elapsed()))

@@ -2,6 +2,7 @@
 
 #include "dictionary/rules_text.h"
 #include "platform/fonts.h"
+#include "ui/accessibility.h"
 #include "ui/colours.h"
 #include "ui/message_window.h"
 
@@ -35,6 +36,8 @@ ConfirmWindow::ConfirmWindow(const std::string& parola, const std::string& nomeD
     word->setAlignment(Qt::AlignCenter);
     word->setFont(tahoma(16, true));
     setColours(word, QColor(0, 0, 128), QColor(255, 255, 192));
+    // A screen reader passes over a window's one-word labels: the word is named in a sentence.
+    word->setAccessibleName(tr("Parola da confermare: %1").arg(word->text()));
 
     auto* language = new QLabel(
         tr("Dizionario in %1").arg(QCoreApplication::translate("Options", nomeDizionario.c_str())),
@@ -55,6 +58,9 @@ ConfirmWindow::ConfirmWindow(const std::string& parola, const std::string& nomeD
         layout->addWidget(m_options[i]);
     }
     m_options[2]->setChecked(true);
+    // The focus starts on the chosen answer, with its mark showing as after a Tab.
+    setAttribute(Qt::WA_KeyboardFocusChange);
+    m_options[2]->setFocus();
 
     auto* rulesField = new QTextEdit(this);
     rulesField->setObjectName("Text1");
