@@ -37,6 +37,10 @@ public:
     static std::string endOfMatch(const std::string& result, const std::string& player,
                                   int playerScore, const std::string& opponent, int cpuScore);
 
+    // A die chosen in the review (`letter`, or '\0' for all the words again) and the words of
+    // each list left: "Dado R: 2 tue, 5 della CPU, 12 mancate".
+    static std::string reviewFilter(char letter, int mine, int cpu, int missed);
+
 private:
     std::string playerNews(std::string text, std::int64_t nowMs);
 

@@ -164,7 +164,8 @@ def main():
     play_start = mark()
 
     # The word grows letter by letter, a refused letter is named, Backspace takes one back.
-    word = adjacent_path(letters, 3)
+    # Four dice of the top row: a word the opponent is unlikely to have, or to know.
+    word = adjacent_path(letters, 4)
     at = mark()
     key(word[0].lower())
     expect(at, rf"^{word[0]}\.?$", f"the word {word[0]!r} after its first letter")
@@ -187,15 +188,17 @@ def main():
     key(word[1].lower())
     expect(at, rf"^{word[0]}{word[1]}\.?$", "the word going on after a short one")
     at = mark()
-    key(word[2].lower(), "Return")
-    # An unknown word asks; a known one is accepted at once.
-    expect(at, rf"{''.join(word)}", "the word being confirmed or accepted", wait=8)
+    key(word[2].lower(), word[3].lower(), "Return")
+    # An unknown word asks; a known one is accepted at once; one the opponent has is refused.
+    expect(at, rf"Parola da confermare: {''.join(word)}|{''.join(word)}: \d+ punti|Parola già inserita",
+           "the word confirmed or its outcome", wait=8)
     if any("Conferma accettazione parola" in u for u in since(at)):
-        expect(at, r"Non inserire nel dizionario personale.*selezionato",
-               "the selected option of the unknown-word window")
+        expect(at, r"^Non inserire nel dizionario personale", "the unknown-word window's choice")
+        expect(at, r"^selezionato", "that the choice is the selected one")
         at = mark()
         key("Up", "Up", "space", "Return", pause=1.5)  # the first option: added and counted
-    expect(at, r"punti", "the points of the accepted word", wait=8)
+    if not any("Parola già inserita" in u for u in since(at)):
+        expect(at, rf"{''.join(word)}: \d+ punti, in tutto", "the points of the word", wait=8)
 
     # F7 and back: the focus returns to the board.
     at = mark()
@@ -211,7 +214,7 @@ def main():
 
     # The rest of the match: the seconds left, the opponent's count, the end with both scores.
     seen = set()
-    end = time.time() + 60
+    end = time.time() + 90
     result_at = None
     while time.time() < end:
         seen |= cpu_words(main)
@@ -226,7 +229,7 @@ def main():
     expect(play_start, r"\d+ punti.*\d+ punti", "both final scores", wait=3)
     # The opponent's list read out: its name as a list, or one of its words on its own.
     for u in spoken()[play_start:result_at]:
-        if u.rstrip(".").lower() in seen or re.search(r"Tobia \(CPU\)\.? *Elenco", u) \
+        if u.rstrip(".") in seen or re.search(r"Tobia \(CPU\)\.? *Elenco", u) \
                 or u.startswith("Elenco con"):
             problems.append(f"the opponent's list was read during play: {u!r}")
     key("alt+o", pause=1.5)

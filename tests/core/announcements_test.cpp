@@ -75,9 +75,12 @@ TEST(Announcements, TellsTheOpponentsCountAtMostEveryFewSecondsAndNeverOverThePl
     EXPECT_EQ(news.opponentNews(100 + 3 * gap + quiet), "Tobia (CPU): 1 parola");
 }
 
-TEST(Announcements, TellsTheEndWithBothScores) {
+TEST(Announcements, TellsTheEndWithBothScoresAndTheReviewsFilter) {
     EXPECT_EQ(Announcements::endOfMatch("Ha vinto BRIVO!", "BRIVO", 820, "Memo (CPU)", 1),
               "Ha vinto BRIVO! BRIVO 820 punti, Memo (CPU) 1 punto.");
+    EXPECT_EQ(Announcements::reviewFilter('R', 2, 0, 12), "Dado R: 2 tue, 0 della CPU, 12 mancate");
+    EXPECT_EQ(Announcements::reviewFilter('\0', 3, 5, 20),
+              "Tutte le parole: 3 tue, 5 della CPU, 20 mancate");
 }
 
 } // namespace
