@@ -58,9 +58,6 @@ ConfirmWindow::ConfirmWindow(const std::string& parola, const std::string& nomeD
         layout->addWidget(m_options[i]);
     }
     m_options[2]->setChecked(true);
-    // The focus starts on the chosen answer, with its mark showing as after a Tab.
-    setAttribute(Qt::WA_KeyboardFocusChange);
-    m_options[2]->setFocus();
 
     auto* rulesField = new QTextEdit(this);
     rulesField->setObjectName("Text1");
@@ -75,6 +72,15 @@ ConfirmWindow::ConfirmWindow(const std::string& parola, const std::string& nomeD
     layout->addWidget(ok, 0, Qt::AlignHCenter);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
     centreOnScreen(this);
+}
+
+// The focus starts on the chosen answer, with its mark showing as after a Tab: the window is
+// answered from the keyboard.
+void ConfirmWindow::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    setAttribute(Qt::WA_KeyboardFocusChange);
+    m_options[2]->setFocus(Qt::TabFocusReason);
+    m_options[2]->update();
 }
 
 int ConfirmWindow::risposta() const {
