@@ -1,14 +1,21 @@
 #include "ui/announcer.h"
 
 #include "ui/accessibility.h"
+#include "ui/message_window.h"
 
 #include <QWidget>
 
 namespace griglione {
 
-Announcer::Announcer(QWidget& window, const GameState& state)
-    : QObject(&window), m_window(window), m_state(state) {
+Announcer::Announcer(QWidget& window, const GameState& state, MessageHost& messages,
+                     std::function<bool()> matchRunning)
+    : QObject(&window), m_window(window), m_state(state), m_matchRunning(std::move(matchRunning)) {
     m_clock.start();
+    messages.setNewsHandler([this](const Messaggio& messaggio) {
+        if (!m_matchRunning()) return false;
+        outcome(messaggio);
+        return true;
+    });
 }
 
 void Announcer::traced(PressResult result, char letter) {
@@ -29,6 +36,8 @@ void Announcer::opponentFound() {
 }
 
 void Announcer::tick() {
+    // The last tick of a match has already shown its result.
+    if (!m_matchRunning()) return;
     if (const std::string left =
             m_news.secondsLeft(m_state.tempoPartita, m_state.secondiTrascorsi, m_clock.elapsed());
         !left.empty())

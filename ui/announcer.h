@@ -9,29 +9,38 @@
 #include <QElapsedTimer>
 #include <QObject>
 
+#include <functional>
+
 class QWidget;
 
 namespace griglione {
 
+class MessageHost;
+
 class Announcer final : public QObject {
     Q_OBJECT
 public:
-    Announcer(QWidget& window, const GameState& state);
+    // Tells the messages of the match running, through `messages`, instead of showing them in
+    // the player's way.
+    Announcer(QWidget& window, const GameState& state, MessageHost& messages,
+              std::function<bool()> matchRunning);
 
     // After a typed letter (`letter`), Backspace or a press on a die ('\0').
     void traced(PressResult result, char letter);
-    // A word's message, shown while the match runs.
-    void outcome(const Messaggio& messaggio);
+    // Escape: the word is empty.
+    void cleared() { traced(PressResult::Selected, '\0'); }
     // The opponent's list changed.
     void opponentFound();
-    // Once a second while the match runs.
+    // Every second of the match clock.
     void tick();
 
 private:
+    void outcome(const Messaggio& messaggio);
     void say(const std::string& text);
 
     QWidget& m_window;
     const GameState& m_state;
+    std::function<bool()> m_matchRunning;
     Announcements m_news;
     QElapsedTimer m_clock;
 };

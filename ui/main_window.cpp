@@ -13,6 +13,7 @@
 #include "ui/control_names.h"
 #include "ui/die_cell.h"
 #include "ui/editor_flow.h"
+#include "ui/focus_return.h"
 #include "ui/help_links.h"
 #include "ui/main_window_controls.h"
 #include "ui/match_flow.h"
@@ -76,10 +77,8 @@ MainWindow::MainWindow(Services services)
     m_timer1 = new QTimer(this);
     m_timer1->setObjectName("Timer1");
     m_timer1->setInterval(1000);
-    connect(m_timer1, &QTimer::timeout, this, [this] {
-        m_match->clockTick();
-        if (m_timer1->isActive()) m_announcer->tick();
-    });
+    connect(m_timer1, &QTimer::timeout, this, [this] { m_match->clockTick(); });
+    connect(m_timer1, &QTimer::timeout, m_announcer, &Announcer::tick);
     m_timer2 = new QTimer(this);
     m_timer2->setObjectName("Timer2");
     m_timer2->setInterval(200);
@@ -124,18 +123,15 @@ MainWindow::MainWindow(Services services)
 MainWindow::~MainWindow() = default;
 
 void MainWindow::buildControls() {
-    m_announcer = new Announcer(*this, m_state);
+    m_announcer =
+        new Announcer(*this, m_state, m_messages, [this] { return m_timer1->isActive(); });
     m_keys = new BoardKeys(
         m_board, [this] { return m_timer1->isActive(); },
         [this](PressResult result, char letter) { m_announcer->traced(result, letter); },
         [this] { m_messages.chiudi(); }, this);
     m_messages.setKeyWatcher(m_keys);
-    // A word's message is told, not shown in the player's way.
-    m_messages.setNewsHandler([this](const Messaggio& messaggio) {
-        if (!m_timer1->isActive()) return false;
-        m_announcer->outcome(messaggio);
-        return true;
-    });
+    new FocusReturn(
+        *this, [this] { return m_timer1->isActive(); }, [this] { focusBoard(); });
     auto* area = new QWidget(this);
     area->setObjectName("client");
     area->setAutoFillBackground(true);
@@ -175,7 +171,7 @@ void MainWindow::buildControls() {
         connect(cell, &DieCell::enterPressed, this, [this] { m_submission->inviaParola(); });
         connect(cell, &DieCell::escapePressed, this, [this] {
             m_board.azzera();
-            m_announcer->traced(PressResult::Selected, '\0');
+            m_announcer->cleared();
         });
         m_cells[n] = cell;
     }
@@ -396,16 +392,6 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
         }
     }
     return QMainWindow::eventFilter(watched, event);
-}
-
-// Back from another window while the match runs, the keys go to the board again, wherever the
-// focus was left before (the rules put it in the name box).
-void MainWindow::changeEvent(QEvent* event) {
-    QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow() && m_timer1->isActive())
-        QTimer::singleShot(0, this, [this] {
-            if (isActiveWindow() && m_timer1->isActive()) focusBoard();
-        });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
