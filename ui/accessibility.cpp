@@ -16,6 +16,7 @@ namespace {
 constexpr auto kAnnouncement = "announcement";
 constexpr auto kWholeText = "griglioneWholeText";
 constexpr auto kLink = "griglioneLink";
+constexpr auto kDecoration = "griglioneDecoration";
 
 // A die is a button: its default action is the left button, its menu action the right one.
 class DieInterface final : public QAccessibleWidget {
@@ -91,7 +92,21 @@ public:
     }
 };
 
+// A decoration: there, but not shown to a reader, which passes over what is not showing.
+class DecorationInterface final : public QAccessibleWidget {
+public:
+    explicit DecorationInterface(QWidget* w) : QAccessibleWidget(w, QAccessible::Border) {}
+
+    QAccessible::State state() const override {
+        QAccessible::State s = QAccessibleWidget::state();
+        s.invisible = true;
+        return s;
+    }
+};
+
 QAccessibleInterface* factory(const QString& className, QObject* object) {
+    if (object && object->isWidgetType() && object->property(kDecoration).toBool())
+        return new DecorationInterface(static_cast<QWidget*>(object));
     if (object && object->isWidgetType() && object->property(kWholeText).isValid())
         return new WholeTextInterface(static_cast<QWidget*>(object));
     if (object && object->isWidgetType() && object->property(kLink).toBool())
@@ -158,10 +173,10 @@ namespace {
 
 // An interface made before the widget was marked keeps its old kind: it is forgotten, so the
 // next question makes one of the new kind.
-void forgetInterface(QWidget* widget, QAccessible::Role wanted) {
+template <typename Kind> void forgetInterface(QWidget* widget) {
     installAccessibility();
     if (QAccessibleInterface* made = QAccessible::queryAccessibleInterface(widget);
-        made && made->role() != wanted)
+        made && !dynamic_cast<Kind*>(made))
         QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(made));
 }
 
@@ -169,14 +184,19 @@ void forgetInterface(QWidget* widget, QAccessible::Role wanted) {
 
 void readWhole(QWidget* widget, const QString& text) {
     widget->setProperty(kWholeText, text);
-    forgetInterface(widget, QAccessible::StaticText);
+    forgetInterface<WholeTextInterface>(widget);
     QAccessibleEvent changed(widget, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&changed);
 }
 
+void markDecoration(QWidget* widget) {
+    widget->setProperty(kDecoration, true);
+    forgetInterface<DecorationInterface>(widget);
+}
+
 void presentAsLink(QWidget* label) {
     label->setProperty(kLink, true);
-    forgetInterface(label, QAccessible::Link);
+    forgetInterface<LinkInterface>(label);
 }
 
 } // namespace griglione

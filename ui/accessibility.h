@@ -23,4 +23,8 @@ void readWhole(QWidget* widget, const QString& text);
 // Has a screen reader offer `label` as a link.
 void presentAsLink(QWidget* label);
 
+// Keeps a drawing that only frames others (the board's frame and shadow) out of what a screen
+// reader presents.
+void markDecoration(QWidget* widget);
+
 } // namespace griglione

@@ -6,6 +6,7 @@
 #include "core/levels.h"
 #include "platform/fonts.h"
 #include "records/record_address.h"
+#include "ui/accessibility.h"
 #include "ui/alert_boxes.h"
 #include "ui/announcer.h"
 #include "ui/board_keys.h"
@@ -158,6 +159,7 @@ void MainWindow::buildControls() {
         fp.setColor(QPalette::WindowText, Qt::black);
         fp.setColor(QPalette::Window, Qt::black);
         frame->setPalette(fp);
+        markDecoration(frame);
         m_frames[i] = frame;
     }
     for (int n = 0; n < kCells; ++n) {

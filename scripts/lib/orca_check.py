@@ -3,6 +3,7 @@ under Xvfb, plays a short match by keyboard and checks Orca's own record of what
 Run by `scripts/screen-reader-check --orca` inside dbus-run-session."""
 import os
 import re
+import shutil
 import subprocess
 import sys
 import time
@@ -211,6 +212,13 @@ def main():
     key(word[0].lower())
     expect(at, rf"^{word[0]}\.?$", "typing on the board after the rules window")
     key("Escape")
+    # The information window likewise.
+    at = mark()
+    key("F4", pause=2)
+    expect(at, r"Informazioni su", "the information window")
+    at = mark()
+    key("Escape", pause=1.5)
+    expect(at, r"riga \d, colonna \d", "the die after the information window")
 
     # The rest of the match: the seconds left, the opponent's count, the end with both scores.
     seen = set()
@@ -232,8 +240,20 @@ def main():
         if u.rstrip(".") in seen or re.search(r"Tobia \(CPU\)\.? *Elenco", u) \
                 or u.startswith("Elenco con"):
             problems.append(f"the opponent's list was read during play: {u!r}")
+    # The review: a list entered from the keyboard reads its current word; a die filters and
+    # says what is left.
+    at = mark()
+    key("alt+p", pause=3)
+    expect(at, r"Parole del tabellone", "the review window")
+    at = mark()
+    key("alt+m", pause=1.5)
+    expect(at, r"^[a-z]+ +\d+", "the missed words' current word")
+    at = mark()
+    key("shift+Tab", "shift+Tab", "shift+Tab", "space", pause=1.5)
+    expect(at, r"^Dado [A-Z]: \d+ tue, \d+ della CPU, \d+ mancate", "the review's filter")
+    key("Escape", pause=1.5)
     key("alt+o", pause=1.5)
-    print("\nWhat Orca said, from F2 to the result:")
+    print("\nWhat Orca said, from F2 to the result and the review:")
     for u in spoken()[begin:]:
         print("  ", u)
     print(f"\nthe opponent found {len(seen)} words")
@@ -251,6 +271,10 @@ finally:
             p.kill()
 
 if problems:
+    # Orca's own log, kept for a look at what it made of each event.
+    if os.path.exists(LOG):
+        shutil.copy(LOG, "build/orca-debug.log")
+        print("\nOrca's debug log: build/orca-debug.log")
     print("\nFAILED:\n  " + "\n  ".join(problems))
     sys.exit(1)
 print("\nOrca said every expected thing and none of the opponent's words")
