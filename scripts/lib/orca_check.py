@@ -47,7 +47,7 @@ def since(start):
     return spoken()[start:]
 
 
-def expect(start, pattern, what, wait=4.0):
+def expect(start, pattern, what, wait=8.0):
     """Fails unless Orca speaks something matching `pattern` after `start` within `wait`."""
     end = time.time() + wait
     while time.time() < end:
@@ -116,7 +116,17 @@ def start_orca():
     prefs = os.path.join(WORK, "orca-prefs")
     os.makedirs(prefs, exist_ok=True)
     env = dict(os.environ, GSETTINGS_BACKEND="memory", LANGUAGE="it", LC_ALL="it_IT.UTF-8")
-    spawn(["/usr/bin/orca", "-u", prefs, "--debug-file", LOG], env=env)
+    # Orca writes its log through a buffer, which would hold the latest utterances back while
+    # the check waits for them: the log file is opened line-buffered instead.
+    launch = ("import builtins, runpy, sys\n"
+              "plain = builtins.open\n"
+              "def opener(file, mode='r', *args, **kw):\n"
+              "    if file == sys.argv[-1] and 'w' in mode:\n"
+              "        return plain(file, mode, 1, **kw)\n"
+              "    return plain(file, mode, *args, **kw)\n"
+              "builtins.open = opener\n"
+              "runpy.run_path('/usr/bin/orca', run_name='__main__')\n")
+    spawn(["/usr/bin/python3", "-c", launch, "-u", prefs, "--debug-file", LOG], env=env)
     for _ in range(100):
         try:
             with open(LOG, encoding="utf-8", errors="replace") as f:
