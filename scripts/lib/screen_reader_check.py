@@ -68,6 +68,8 @@ def walk(acc, depth=0, where=""):
     line = "  " * depth + f"{role} {name!r}"
     if acc.description:
         line += f" - {acc.description}"
+    if not showing(acc):
+        line += " (not shown)"
     try:
         value = acc.queryValue().currentValue
         line += f" = {value:g}"
