@@ -20,6 +20,61 @@
     </message>
 </context>
 <context>
+    <name>Announcements</name>
+    <message>
+        <source>1 punto</source>
+        <translation>1 point</translation>
+    </message>
+    <message>
+        <source>%1 punti</source>
+        <translation>%1 points</translation>
+    </message>
+    <message>
+        <source>Parola vuota</source>
+        <translation>Empty word</translation>
+    </message>
+    <message>
+        <source>%1: nessun dado</source>
+        <translation>%1: no die</translation>
+    </message>
+    <message>
+        <source>%1: %2, in tutto %3</source>
+        <translation>%1: %2, %3 in all</translation>
+    </message>
+    <message>
+        <source>Mancano %1 secondi</source>
+        <translation>%1 seconds left</translation>
+    </message>
+    <message>
+        <source>1 parola</source>
+        <translation>1 word</translation>
+    </message>
+    <message>
+        <source>%1 parole</source>
+        <translation>%1 words</translation>
+    </message>
+    <message>
+        <source>Tobia (CPU): %1</source>
+        <translation>Tobia (CPU): %1</translation>
+    </message>
+    <message>
+        <source>%1 %2 %3, %4 %5.</source>
+        <translation>%1 %2 %3, %4 %5.</translation>
+    </message>
+    <message>
+        <source>%1 tue, %2 della CPU, %3 mancate</source>
+        <translation>%1 yours, %2 the CPU's, %3 missed</translation>
+    </message>
+    <message>
+        <source>Tutte le parole: %1</source>
+        <translation>All the words: %1</translation>
+    </message>
+    <message>
+        <source>Dado %1: %2</source>
+        <translation>Die %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>BoardGame</name>
     <message>
         <source>Lettera non adiacente</source>
@@ -152,6 +207,10 @@
     <message>
         <source>Apre il sito dell&apos;autore nel browser: %1</source>
         <translation>Opens the author&apos;s web site in the browser: %1</translation>
+    </message>
+    <message>
+        <source>Ultimo tentativo del computer</source>
+        <translation>The computer&apos;s last try</translation>
     </message>
 </context>
 <context>
@@ -689,6 +748,10 @@ Click the &lt;OK&gt; button to play.</translation>
         <source>Parole ammesse</source>
         <translation>Allowed words</translation>
     </message>
+    <message>
+        <source>Parola da confermare: %1</source>
+        <translation>Word to confirm: %1</translation>
+    </message>
 </context>
 <context>
     <name>griglione::DictionaryEditorWindow</name>
@@ -827,6 +890,10 @@ Click the &lt;OK&gt; button to play.</translation>
         <source>Il Griglione</source>
         <translation>Il Griglione</translation>
     </message>
+    <message>
+        <source>Statistiche: vinte %1, perse %2, pareggi %3</source>
+        <translation>Statistics: won %1, lost %2, drawn %3</translation>
+    </message>
 </context>
 <context>
     <name>griglione::HelpLinks</name>
@@ -947,9 +1014,12 @@ Thanks to everyone who plays and reports missing words.</translation>
         <source>OK, fatto</source>
         <translation>OK, done</translation>
     </message>
+</context>
+<context>
+    <name>griglione::ProgressBox</name>
     <message>
-        <source>Messaggio</source>
-        <translation>Message</translation>
+        <source>Avanzamento</source>
+        <translation>Progress</translation>
     </message>
 </context>
 <context>
@@ -1014,6 +1084,10 @@ Thanks to everyone who plays and reports missing words.</translation>
         <source>Note sul punteggio</source>
         <translation>Notes on the score</translation>
     </message>
+    <message>
+        <source>Sono il migliore</source>
+        <translation>I am the best</translation>
+    </message>
 </context>
 <context>
     <name>griglione::ReviewWindow</name>
@@ -1054,12 +1128,6 @@ Thanks to everyone who plays and reports missing words.</translation>
         <translation>&amp;Missed words</translation>
     </message>
     <message>
-        <source>%1
-%2, %3 punti</source>
-        <translation>%1
-%2, %3 points</translation>
-    </message>
-    <message>
         <source>Clicca una parola per vederne il percorso, un dado per vedere solo le parole che lo attraversano.</source>
         <translation>Click a word to see its path, a die to see only the words that pass through it.</translation>
     </message>
@@ -1078,6 +1146,10 @@ Thanks to everyone who plays and reports missing words.</translation>
     <message>
         <source>Parole mancate</source>
         <translation>Missed words</translation>
+    </message>
+    <message>
+        <source>%1, %2 punti</source>
+        <translation>%1, %2 points</translation>
     </message>
 </context>
 <context>

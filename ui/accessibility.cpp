@@ -6,6 +6,7 @@
 #include <QAccessibleWidget>
 #include <QCoreApplication>
 #include <QEvent>
+#include <QLabel>
 #include <QScrollBar>
 #include <QWidget>
 
@@ -13,6 +14,9 @@ namespace griglione {
 namespace {
 
 constexpr auto kAnnouncement = "announcement";
+constexpr auto kWholeText = "griglioneWholeText";
+constexpr auto kLink = "griglioneLink";
+constexpr auto kDecoration = "griglioneDecoration";
 
 // A die is a button: its default action is the left button, its menu action the right one.
 class DieInterface final : public QAccessibleWidget {
@@ -61,7 +65,52 @@ public:
     explicit AnnouncementInterface(QWidget* w) : QAccessibleWidget(w, QAccessible::Notification) {}
 };
 
+// A widget read as one text: its name is the text and its parts are not offered.
+class WholeTextInterface final : public QAccessibleWidget {
+public:
+    explicit WholeTextInterface(QWidget* w) : QAccessibleWidget(w, QAccessible::StaticText) {}
+
+    QString text(QAccessible::Text t) const override {
+        if (t == QAccessible::Name) return widget()->property(kWholeText).toString();
+        return QAccessibleWidget::text(t);
+    }
+    int childCount() const override { return 0; }
+    QAccessibleInterface* child(int) const override { return nullptr; }
+    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+};
+
+// A label that opens something: a link, named by its text.
+class LinkInterface final : public QAccessibleWidget {
+public:
+    explicit LinkInterface(QWidget* w) : QAccessibleWidget(w, QAccessible::Link) {}
+
+    QString text(QAccessible::Text t) const override {
+        QString own = QAccessibleWidget::text(t);
+        if (t == QAccessible::Name && own.isEmpty())
+            if (auto* label = qobject_cast<const QLabel*>(widget())) return label->text();
+        return own;
+    }
+};
+
+// A decoration: there, but not shown to a reader, which passes over what is not showing.
+class DecorationInterface final : public QAccessibleWidget {
+public:
+    explicit DecorationInterface(QWidget* w) : QAccessibleWidget(w, QAccessible::Border) {}
+
+    QAccessible::State state() const override {
+        QAccessible::State s = QAccessibleWidget::state();
+        s.invisible = true;
+        return s;
+    }
+};
+
 QAccessibleInterface* factory(const QString& className, QObject* object) {
+    if (object && object->isWidgetType() && object->property(kDecoration).toBool())
+        return new DecorationInterface(static_cast<QWidget*>(object));
+    if (object && object->isWidgetType() && object->property(kWholeText).isValid())
+        return new WholeTextInterface(static_cast<QWidget*>(object));
+    if (object && object->isWidgetType() && object->property(kLink).toBool())
+        return new LinkInterface(static_cast<QWidget*>(object));
     if (className == QLatin1String("griglione::DieCell"))
         return new DieInterface(static_cast<DieCell*>(object));
     if (className == QLatin1String("griglione::TimeBar"))
@@ -115,6 +164,39 @@ void announce(QWidget* window, const QString& text) {
     notice->setAccessibleName(text);
     notice->show();
     notice->lower();
+}
+
+} // namespace griglione
+
+namespace griglione {
+namespace {
+
+// An interface made before the widget was marked keeps its old kind: it is forgotten, so the
+// next question makes one of the new kind.
+template <typename Kind> void forgetInterface(QWidget* widget) {
+    installAccessibility();
+    if (QAccessibleInterface* made = QAccessible::queryAccessibleInterface(widget);
+        made && !dynamic_cast<Kind*>(made))
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(made));
+}
+
+} // namespace
+
+void readWhole(QWidget* widget, const QString& text) {
+    widget->setProperty(kWholeText, text);
+    forgetInterface<WholeTextInterface>(widget);
+    QAccessibleEvent changed(widget, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&changed);
+}
+
+void markDecoration(QWidget* widget) {
+    widget->setProperty(kDecoration, true);
+    forgetInterface<DecorationInterface>(widget);
+}
+
+void presentAsLink(QWidget* label) {
+    label->setProperty(kLink, true);
+    forgetInterface<LinkInterface>(label);
 }
 
 } // namespace griglione

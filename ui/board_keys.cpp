@@ -3,7 +3,6 @@
 #include "board/board_game.h"
 #include "core/ansi_text.h"
 
-#include <QDialog>
 #include <QKeyEvent>
 #include <QWidget>
 
@@ -22,8 +21,11 @@ char typedLetter(const QKeyEvent& key) {
 
 } // namespace
 
-BoardKeys::BoardKeys(BoardGame& board, std::function<bool()> matchRunning, QObject* parent)
-    : QObject(parent), m_board(board), m_matchRunning(std::move(matchRunning)) {}
+BoardKeys::BoardKeys(BoardGame& board, std::function<bool()> matchRunning,
+                     std::function<void(PressResult, char)> traced,
+                     std::function<void()> closeMessage, QObject* parent)
+    : QObject(parent), m_board(board), m_matchRunning(std::move(matchRunning)),
+      m_traced(std::move(traced)), m_closeMessage(std::move(closeMessage)) {}
 
 void BoardKeys::watch(QWidget* control) {
     control->installEventFilter(this);
@@ -36,11 +38,8 @@ bool BoardKeys::eventFilter(QObject* watched, QEvent* event) {
     const bool back = key.key() == Qt::Key_Backspace && key.modifiers() == Qt::NoModifier;
     const char letter = back ? '\0' : typedLetter(key);
     if (!back && !letter) return QObject::eventFilter(watched, event);
-    if (auto* message = qobject_cast<QDialog*>(watched)) message->close();
-    if (back)
-        m_board.takeBack(true);
-    else
-        m_board.typeLetter(letter, true);
+    m_closeMessage();
+    m_traced(back ? m_board.takeBack(true) : m_board.typeLetter(letter, true), letter);
     return true;
 }
 

@@ -70,6 +70,22 @@ inline QPalette withReadableSelection(QPalette palette) {
     return palette;
 }
 
+// The hint in an empty field, which themes draw half transparent: made solid and readable on
+// the field's ground, disabled fields included.
+inline QPalette withReadablePlaceholder(QPalette palette) {
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        const QColor ground = palette.color(group, QPalette::Base);
+        const QColor hint = palette.color(group, QPalette::PlaceholderText);
+        const auto mix = [a = hint.alphaF()](int over, int under) {
+            return static_cast<int>(over * a + under * (1 - a) + 0.5);
+        };
+        const QColor seen(mix(hint.red(), ground.red()), mix(hint.green(), ground.green()),
+                          mix(hint.blue(), ground.blue()));
+        palette.setColor(group, QPalette::PlaceholderText, readableColour(seen, ground));
+    }
+    return palette;
+}
+
 // A fixed ground, such as the light grey of the windows the game paints itself, with the text
 // colour that goes with it; controls that draw their own ground keep the theme's.
 inline void setGround(QWidget* widget, const QColor& background, const QColor& text) {

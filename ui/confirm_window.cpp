@@ -2,6 +2,7 @@
 
 #include "dictionary/rules_text.h"
 #include "platform/fonts.h"
+#include "ui/accessibility.h"
 #include "ui/colours.h"
 #include "ui/message_window.h"
 
@@ -35,6 +36,8 @@ ConfirmWindow::ConfirmWindow(const std::string& parola, const std::string& nomeD
     word->setAlignment(Qt::AlignCenter);
     word->setFont(tahoma(16, true));
     setColours(word, QColor(0, 0, 128), QColor(255, 255, 192));
+    // A screen reader passes over a window's one-word labels: the word is named in a sentence.
+    word->setAccessibleName(tr("Parola da confermare: %1").arg(word->text()));
 
     auto* language = new QLabel(
         tr("Dizionario in %1").arg(QCoreApplication::translate("Options", nomeDizionario.c_str())),
@@ -69,6 +72,15 @@ ConfirmWindow::ConfirmWindow(const std::string& parola, const std::string& nomeD
     layout->addWidget(ok, 0, Qt::AlignHCenter);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
     centreOnScreen(this);
+}
+
+// The focus starts on the chosen answer, with its mark showing as after a Tab: the window is
+// answered from the keyboard.
+void ConfirmWindow::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    setAttribute(Qt::WA_KeyboardFocusChange);
+    m_options[2]->setFocus(Qt::TabFocusReason);
+    m_options[2]->update();
 }
 
 int ConfirmWindow::risposta() const {

@@ -22,6 +22,9 @@ public:
                   const std::string& rules, QWidget* parent);
     int risposta() const;
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     std::array<QRadioButton*, 3> m_options{};
 };

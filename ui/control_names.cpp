@@ -33,6 +33,8 @@ constexpr Naming kNames[] = {
     {"Label10", "", QT_TRANSLATE_NOOP("MainWindow", "I tuoi punti")},
     {"Label11", "", QT_TRANSLATE_NOOP("MainWindow", "Punti di Tobia (CPU)")},
     {"Picture3", QT_TRANSLATE_NOOP("MainWindow", "Il Griglione"), ""},
+    // Hidden; a fixed name keeps its many changes of text off the screen reader's bus.
+    {"Label8", QT_TRANSLATE_NOOP("MainWindow", "Ultimo tentativo del computer"), ""},
 };
 
 // The labels named by their value.

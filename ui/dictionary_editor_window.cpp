@@ -67,12 +67,13 @@ void DictionaryEditorWindow::buildControls() {
     for (int i = 0; i < kLists; ++i) {
         const int x = 12 + (i % 4) * 147;
         const int y = 48 + (i / 4) * 86;
-        label(this, QStringLiteral("Label1_%1").arg(i), tr("%1 Caratt.").arg(i + 3),
-              {x, y, 135, 18});
+        QLabel* caption = label(this, QStringLiteral("Label1_%1").arg(i),
+                                tr("%1 Caratt.").arg(i + 3), {x, y, 135, 18});
         m_words[i] = new QStringListModel(this);
         auto* list = new QComboBox(this);
         list->setObjectName(QStringLiteral("Combo1_%1").arg(i));
         list->setAccessibleName(tr("Parole di %1 caratteri").arg(i + 3));
+        caption->setBuddy(list);
         list->setGeometry(x, y + 20, 135, 24);
         // Thousands of words: measuring each one for the list's width would take seconds.
         list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

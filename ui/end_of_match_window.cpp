@@ -1,5 +1,6 @@
 #include "ui/end_of_match_window.h"
 
+#include "core/announcements.h"
 #include "platform/fonts.h"
 #include "ui/colours.h"
 #include "ui/message_window.h"
@@ -11,6 +12,8 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTimer>
+
+#include <string>
 
 namespace griglione {
 namespace {
@@ -63,7 +66,8 @@ EndOfMatchWindow::EndOfMatchWindow(QTimer& matchClock, QTimer& opponentClock, So
     m_history->setFont(courier(9));
     m_history->setAccessibleName(tr("Partite giocate"));
 
-    label(this, "Label5", tr("STATISTICHE"), 660, 3090, 2000, 300)->setFont(tahoma(8.25, true));
+    m_statisticsHeading = label(this, "Label5", tr("STATISTICHE"), 660, 3090, 2000, 300);
+    m_statisticsHeading->setFont(tahoma(8.25, true));
     const QString headings[] = {tr("Vinte"), tr("Perse"), tr("Pareggi")};
     const char* countNames[] = {"Label9", "Label10", "Label11"};
     const char* headingNames[] = {"Label6", "Label7", "Label8"};
@@ -79,6 +83,8 @@ EndOfMatchWindow::EndOfMatchWindow(QTimer& matchClock, QTimer& opponentClock, So
     ok->setObjectName("Command1");
     ok->setGeometry(twipsRect(3870, 4410, 960, 420));
     ok->setDefault(true);
+    // On the question's answer, so that a screen reader reads the window and then the button.
+    ok->setFocus();
     connect(ok, &QPushButton::clicked, this, &EndOfMatchWindow::goOn);
     auto* cancel = new QPushButton(tr("&Annulla"), this);
     cancel->setObjectName("Command2");
@@ -118,6 +124,16 @@ void EndOfMatchWindow::showResult(const QString& playerName, int playerScore, in
     m_counts[0]->setText(QString::fromStdString(report.humanWins));
     m_counts[1]->setText(QString::fromStdString(report.cpuWins));
     m_counts[2]->setText(QString::fromStdString(report.draws));
+    // A screen reader reads a window's sentences, not its one-word labels: the result carries
+    // both scores, the heading the three counts.
+    m_result->setAccessibleName(QString::fromStdString(
+        Announcements::endOfMatch(report.result, report.humanName, std::stoi(report.humanScore),
+                                  report.cpuName, std::stoi(report.cpuScore))));
+    m_statisticsHeading->setAccessibleName(
+        tr("Statistiche: vinte %1, perse %2, pareggi %3")
+            .arg(QString::fromStdString(report.humanWins).trimmed(),
+                 QString::fromStdString(report.cpuWins).trimmed(),
+                 QString::fromStdString(report.draws).trimmed()));
     exec();
 }
 

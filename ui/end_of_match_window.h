@@ -51,6 +51,7 @@ private:
     std::function<void()> m_openReview;
     MatchStatistics m_statistics;
     QLabel* m_result = nullptr;
+    QLabel* m_statisticsHeading = nullptr;
     std::array<QLabel*, 2> m_names{};
     std::array<QLabel*, 2> m_scores{};
     std::array<QLabel*, 3> m_counts{};

@@ -2,8 +2,9 @@
 
 #include "core/addresses.h"
 #include "core/file_names.h"
-#include "records/record_address.h"
 #include "platform/picture_book.h"
+#include "records/record_address.h"
+#include "ui/accessibility.h"
 #include "ui/information_window.h"
 #include "ui/link_cursor.h"
 #include "ui/menu_bar.h"
@@ -36,6 +37,7 @@ HelpLinks::HelpLinks(QWidget* window, const MenuActions& menu, Outside& outside,
     if (m_siteLink) {
         m_siteLink->setCursor(linkCursor());
         m_siteLink->installEventFilter(this);
+        presentAsLink(m_siteLink);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "core/addresses.h"
 #include "platform/fonts.h"
 #include "records/record_address.h"
+#include "ui/accessibility.h"
 #include "ui/colours.h"
 #include "ui/link_cursor.h"
 #include "ui/message_window.h"
@@ -141,6 +142,7 @@ QLabel* InformationWindow::link(const char* name, const QString& content, const 
     // Reached with Tab as well, so the links work from the keyboard; the box shows the focus.
     label->setFocusPolicy(Qt::TabFocus);
     label->installEventFilter(this);
+    presentAsLink(label);
     return label;
 }
 

@@ -6,13 +6,16 @@
 #include "core/levels.h"
 #include "platform/fonts.h"
 #include "records/record_address.h"
+#include "ui/accessibility.h"
 #include "ui/alert_boxes.h"
+#include "ui/announcer.h"
 #include "ui/board_keys.h"
 #include "ui/challenge_flow.h"
 #include "ui/colours.h"
 #include "ui/control_names.h"
 #include "ui/die_cell.h"
 #include "ui/editor_flow.h"
+#include "ui/focus_return.h"
 #include "ui/help_links.h"
 #include "ui/main_window_controls.h"
 #include "ui/match_flow.h"
@@ -78,6 +81,7 @@ MainWindow::MainWindow(Services services)
     m_timer1->setObjectName("Timer1");
     m_timer1->setInterval(1000);
     connect(m_timer1, &QTimer::timeout, this, [this] { m_match->clockTick(); });
+    connect(m_timer1, &QTimer::timeout, m_announcer, &Announcer::tick);
     m_timer2 = new QTimer(this);
     m_timer2->setObjectName("Timer2");
     m_timer2->setInterval(200);
@@ -128,9 +132,15 @@ MainWindow::MainWindow(Services services)
 MainWindow::~MainWindow() = default;
 
 void MainWindow::buildControls() {
+    m_announcer =
+        new Announcer(*this, m_state, m_messages, [this] { return m_timer1->isActive(); });
     m_keys = new BoardKeys(
-        m_board, [this] { return m_timer1->isActive(); }, this);
+        m_board, [this] { return m_timer1->isActive(); },
+        [this](PressResult result, char letter) { m_announcer->traced(result, letter); },
+        [this] { m_messages.chiudi(); }, this);
     m_messages.setKeyWatcher(m_keys);
+    new FocusReturn(
+        *this, [this] { return m_timer1->isActive(); }, [this] { focusBoard(); });
     auto* area = new QWidget(this);
     area->setObjectName("client");
     area->setAutoFillBackground(true);
@@ -157,17 +167,22 @@ void MainWindow::buildControls() {
         fp.setColor(QPalette::WindowText, Qt::black);
         fp.setColor(QPalette::Window, Qt::black);
         frame->setPalette(fp);
+        markDecoration(frame);
         m_frames[i] = frame;
     }
     for (int n = 0; n < kCells; ++n) {
         auto* cell = new DieCell(n, area);
         cell->setGeometry(
             cell0.translated((n % kBoardSide) * cell0.width(), (n / kBoardSide) * cell0.height()));
-        connect(cell, &DieCell::pressed, this,
-                [this](int die, int button) { m_match->diePressed(die, button); });
+        connect(cell, &DieCell::pressed, this, [this](int die, int button) {
+            m_announcer->traced(m_match->diePressed(die, button), '\0');
+        });
         m_keys->watch(cell);
         connect(cell, &DieCell::enterPressed, this, [this] { m_submission->inviaParola(); });
-        connect(cell, &DieCell::escapePressed, this, [this] { m_board.azzera(); });
+        connect(cell, &DieCell::escapePressed, this, [this] {
+            m_board.azzera();
+            m_announcer->cleared();
+        });
         m_cells[n] = cell;
     }
     m_pathOverlay = new PathOverlay(m_board.path(), cell0.size(), area);
@@ -319,7 +334,7 @@ void MainWindow::showRules() {
     if (m_playerName->isVisible()) m_playerName->setFocus();
     m_state.messaggio = {tr("INFO!").toStdString(), tr("Informazioni dizionario").toStdString(),
                          rules};
-    m_messages.mostraMessaggio(m_state.messaggio, false);
+    m_messages.showToRead(m_state.messaggio);
 }
 
 void MainWindow::quit() {
@@ -348,6 +363,7 @@ void MainWindow::changed(Aspect aspect) {
         break;
     case Aspect::CpuWords:
         showWords(m_cpuWords, m_state.paroleCPU);
+        m_announcer->opponentFound();
         break;
     case Aspect::Scores:
         setValueText(m_playerScore, QString::number(m_state.puntiGiocatore));

@@ -35,6 +35,7 @@ class QToolButton;
 
 namespace griglione {
 
+class Announcer;
 class BoardKeys;
 class ChallengeFlow;
 class DieCell;
@@ -118,6 +119,7 @@ private:
     std::unique_ptr<EditorFlow> m_editors;
     ChallengeFlow* m_challenges = nullptr;
     BoardKeys* m_keys = nullptr;
+    Announcer* m_announcer = nullptr;
 
     std::array<DieCell*, kCells> m_cells{};
     QLabel* m_word = nullptr;             // Label1

@@ -3,6 +3,7 @@
 #include "board/board_layout.h"
 #include "platform/fonts.h"
 #include "ui/colours.h"
+#include "ui/quiet_list.h"
 
 #include <QIcon>
 #include <QLabel>
@@ -24,8 +25,10 @@ QLabel* label(QWidget* parent, const char* name, const QString& text, const QRec
 
 QListWidget* wordList(QWidget* parent, const char* name, const QRect& geometry,
                       const QColor& background) {
-    auto* list = new QListWidget(parent);
+    auto* list = new QuietList(parent);
     list->setObjectName(name);
+    // Read by a screen reader's review, never a Tab stop: there is nothing to do in them.
+    list->setFocusPolicy(Qt::NoFocus);
     list->setGeometry(geometry);
     QPalette palette = list->palette();
     palette.setColor(QPalette::Base, background);

@@ -106,11 +106,13 @@ void MatchFlow::abandon() {
     m_timer2.stop();
 }
 
-void MatchFlow::diePressed(int n, int button) {
-    if (m_board.press(n, button, m_timer1.isActive()) == PressResult::StartMatch) {
+PressResult MatchFlow::diePressed(int n, int button) {
+    const PressResult result = m_board.press(n, button, m_timer1.isActive());
+    if (result == PressResult::StartMatch) {
         startPartita();
         nuovaPartita();
     }
+    return result;
 }
 
 } // namespace griglione

@@ -50,7 +50,7 @@ public:
     // A new match length or language: the announcement, then a new board.
     void restartAfterSettingChange();
     void clockTick();
-    void diePressed(int n, int button);
+    PressResult diePressed(int n, int button);
     // The announcement, then a match on exactly `board`.
     void startOnBoard(const SharedBoard& board);
     // Runs on the review window before every opening: what it adds to it.

@@ -123,14 +123,18 @@ MessageWindow::MessageWindow(const Messaggio& messaggio, QWidget* parent) : QDia
     body->setReadOnly(true);
     body->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     body->setPlainText(QString::fromStdString(messaggio.testo).replace("\r\n", "\n"));
-    body->setAccessibleName(tr("Messaggio"));
-    frame->setAccessibleName(title);
+    // Read whole with the window, as its text: a screen reader reads a text field a line at a
+    // time from the focus. The focus goes to OK, which reads the window.
+    readWhole(body, body->toPlainText());
+    // The five big letters are one title.
+    readWhole(frame, title);
 
     auto* ok = new QPushButton(tr("&OK"), this);
     ok->setObjectName("Command3d1");
     ok->setToolTip(tr("OK, fatto"));
     ok->setGeometry(twipsRect(690, 4050, 4665, 1035));
     ok->setDefault(true);
+    ok->setFocus();
     connect(ok, &QPushButton::clicked, this, &QDialog::close);
 
     m_timer = new QTimer(this);
@@ -147,16 +151,23 @@ void MessageWindow::flash() {
 }
 
 void MessageHost::mostraMessaggio(const Messaggio& messaggio, bool modal) {
+    show(messaggio, modal, !modal && m_news && m_news(messaggio));
+}
+
+void MessageHost::showToRead(const Messaggio& messaggio) {
+    show(messaggio, false, false);
+}
+
+void MessageHost::show(const Messaggio& messaggio, bool modal, bool news) {
     chiudi();
-    // Read out as well as shown, so a player who cannot see the window hears the outcome.
-    announce(m_parent, QString::fromStdString(messaggio.intestazione + "\n" + messaggio.testo));
     m_window = new MessageWindow(messaggio, m_parent);
     if (modal) {
         m_window->exec();
-    } else {
-        if (m_keyWatcher) m_window->installEventFilter(m_keyWatcher);
-        m_window->show();
+        return;
     }
+    if (m_keyWatcher) m_window->installEventFilter(m_keyWatcher);
+    m_window->setAttribute(Qt::WA_ShowWithoutActivating, news);
+    m_window->show();
 }
 
 void MessageHost::chiudi() {

@@ -10,6 +10,7 @@
 #include <QPointer>
 
 #include <array>
+#include <functional>
 
 class QLabel;
 class QTimer;
@@ -37,13 +38,24 @@ public:
     explicit MessageHost(QWidget* parent) : m_parent(parent) {}
 
     void mostraMessaggio(const Messaggio& messaggio, bool modal) override;
+    // A message the player asked for: it takes the focus, whatever the news handler says.
+    void showToRead(const Messaggio& messaggio);
+    // Decides whether a message that does not block is news of the match running: news is
+    // told to the screen reader by the handler and shown without taking the focus, so that the
+    // player types on.
+    void setNewsHandler(std::function<bool(const Messaggio&)> handler) {
+        m_news = std::move(handler);
+    }
     void chiudi();
     // Watches the keys of every message that does not block, so typing goes on behind it.
     void setKeyWatcher(QObject* watcher) { m_keyWatcher = watcher; }
     MessageWindow* window() const { return m_window; }
 
 private:
+    void show(const Messaggio& messaggio, bool modal, bool news);
+
     QWidget* m_parent;
+    std::function<bool(const Messaggio&)> m_news;
     QPointer<MessageWindow> m_window;
     QObject* m_keyWatcher = nullptr;
 };

@@ -9,6 +9,7 @@ namespace griglione {
 
 ProgressBox::ProgressBox(QWidget* parent) : QWidget(parent), m_background(Qt::white) {
     setObjectName("Picture1");
+    setAccessibleName(tr("Avanzamento"));
 }
 
 void ProgressBox::fillYellow() {

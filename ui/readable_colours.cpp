@@ -34,7 +34,7 @@ bool ReadableColours::eventFilter(QObject* watched, QEvent* event) {
 void ReadableColours::correctSelection() {
     // Once corrected the palette stays as it is, so the change this makes ends here.
     const QPalette palette = QApplication::palette();
-    const QPalette readable = withReadableSelection(palette);
+    const QPalette readable = withReadablePlaceholder(withReadableSelection(palette));
     if (readable != palette) QApplication::setPalette(readable);
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/ansi_text.h"
 #include "platform/fonts.h"
+#include "ui/accessibility.h"
 #include "ui/colours.h"
 #include "ui/control_names.h"
 #include "ui/link_cursor.h"
@@ -108,7 +109,7 @@ void RecordsWindow::buildControls() {
     auto* notesCaption =
         label(this, "Label6", tr("Note sul punteggio:"), twipsRect(450, 5490, 795, 435), Qt::white);
     notesCaption->setWordWrap(true);
-    m_notes = textBox(this, "Text1", "Sono il migliore", twipsRect(1260, 5580, 2520, 285));
+    m_notes = textBox(this, "Text1", tr("Sono il migliore"), twipsRect(1260, 5580, 2520, 285));
     m_notes->setAccessibleName(tr("Note sul punteggio"));
     m_link = label(this, "Label7", tr("Registra record in Internet"),
                    twipsRect(3870, 5580, 2250, 285), kLinkYellow);
@@ -122,6 +123,7 @@ void RecordsWindow::buildControls() {
     // A label draws no focus frame of its own; the keyboard user must see where Enter goes.
     m_link->setStyleSheet("QLabel:focus { border: 1px dotted palette(window-text); }");
     m_link->installEventFilter(this);
+    presentAsLink(m_link);
 
     m_submission = {m_notes, m_email, m_link, emailCaption, notesCaption};
     for (QWidget* w : m_submission)

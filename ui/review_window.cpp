@@ -1,11 +1,14 @@
 #include "ui/review_window.h"
 
+#include "core/announcements.h"
 #include "core/number_text.h"
 #include "platform/fonts.h"
 #include "review/word_list.h"
+#include "ui/accessibility.h"
 #include "ui/colours.h"
 #include "ui/die_cell.h"
 #include "ui/path_overlay.h"
+#include "ui/quiet_list.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -128,8 +131,11 @@ void ReviewWindow::buildLists() {
         const int left = kListsLeft + static_cast<int>(i) * (kListWidth + kListGap);
         m_headings[i] = new QLabel(this);
         m_headings[i]->setObjectName(headingNames[i]);
-        m_headings[i]->setGeometry(left, kBoardTop - 4, kListWidth, 36);
-        m_lists[i] = new QListWidget(this);
+        m_headings[i]->setGeometry(left, kBoardTop - 6, kListWidth, 18);
+        m_counts[i] = new QLabel(this);
+        m_counts[i]->setObjectName(QStringLiteral("count%1").arg(i + 1));
+        m_counts[i]->setGeometry(left, kBoardTop + 14, kListWidth, 18);
+        m_lists[i] = new QuietList(this);
         m_lists[i]->setObjectName(objectNames[i]);
         m_lists[i]->setGeometry(left, kBoardTop + 34, kListWidth, kBoardSide * kDie - 30);
         m_lists[i]->setFont(courier(9));
@@ -168,8 +174,8 @@ void ReviewWindow::showWords() {
                                     .arg(QString::fromStdString(entry->word), -10)
                                     .arg(entry->points, 5));
         }
-        m_headings[i]->setText(
-            tr("%1\n%2, %3 punti").arg(titles[i], words(m_shown[i].size()), points(shownPoints)));
+        m_headings[i]->setText(titles[i]);
+        m_counts[i]->setText(tr("%1, %2 punti").arg(words(m_shown[i].size()), points(shownPoints)));
     }
     if (m_filter < 0) {
         m_marker->hide();
@@ -188,6 +194,9 @@ void ReviewWindow::showWords() {
 void ReviewWindow::cellPressed(int cell) {
     m_filter = m_filter == cell ? -1 : cell;
     showWords();
+    announce(this, QString::fromStdString(Announcements::reviewFilter(
+                       m_filter < 0 ? '\0' : m_letters[static_cast<std::size_t>(m_filter)],
+                       m_lists[0]->count(), m_lists[1]->count(), m_lists[2]->count())));
 }
 
 void ReviewWindow::wordChosen(std::size_t list, int row) {

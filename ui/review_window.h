@@ -60,6 +60,7 @@ private:
     QLabel* m_total = nullptr;
     QLabel* m_hint = nullptr;
     std::array<QLabel*, 3> m_headings{};
+    std::array<QLabel*, 3> m_counts{}; // under each heading, apart so its access key stays clear
     std::array<QListWidget*, 3> m_lists{};
     std::array<std::vector<const ReviewEntry*>, 3> m_shown;
 };

@@ -17,19 +17,13 @@ TimeBar::TimeBar(QWidget* parent) : QWidget(parent) {
 void TimeBar::fillTo(int x) {
     m_filled = std::clamp(std::max(m_filled, x), 0, innerWidth());
     update();
-    valueChanged();
 }
 
+// A screen reader reads the bar's value when asked, but hears of no change: Orca would speak
+// the percentage every few seconds over the player's word. The seconds left are told instead.
 void TimeBar::clear() {
     m_filled = 0;
     update();
-    valueChanged();
-}
-
-// Screen readers hear the bar as a value in hundredths of the match.
-void TimeBar::valueChanged() {
-    QAccessibleValueChangeEvent event(this, innerWidth() > 0 ? m_filled * 100 / innerWidth() : 0);
-    QAccessible::updateAccessibility(&event);
 }
 
 void TimeBar::paintEvent(QPaintEvent*) {

@@ -21,8 +21,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void valueChanged();
-
     int m_filled = 0;
 };
 

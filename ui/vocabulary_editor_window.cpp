@@ -147,13 +147,15 @@ void VocabularyEditorWindow::conferma() {
 }
 
 void VocabularyEditorWindow::closeEntry() {
+    // Hiding the entry would hand its focus to the next control still enabled, "Help".
+    const bool entryHadFocus = focusWidget() == m_entry || focusWidget() == m_confirm;
     m_entry->hide();
     m_prompt->hide();
     m_confirm->hide();
     for (QPushButton* b : {m_new, m_back, m_delete})
         b->setEnabled(true);
     m_hint->show();
-    if (focusWidget() == nullptr || focusWidget()->isHidden()) m_new->setFocus();
+    if (entryHadFocus || focusWidget() == nullptr || focusWidget()->isHidden()) m_new->setFocus();
 }
 
 void VocabularyEditorWindow::cancellaParola() {

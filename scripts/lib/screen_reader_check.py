@@ -68,6 +68,8 @@ def walk(acc, depth=0, where=""):
     line = "  " * depth + f"{role} {name!r}"
     if acc.description:
         line += f" - {acc.description}"
+    if not showing(acc):
+        line += " (not shown)"
     try:
         value = acc.queryValue().currentValue
         line += f" = {value:g}"
@@ -162,8 +164,11 @@ heard = []  # (event type, name) of the notifications the bus reported
 
 
 def listen(event):
-    if event.source is not None and event.source.getRole() == pyatspi.ROLE_NOTIFICATION:
-        heard.append((event.type, event.source.name or ""))
+    try:
+        if event.source is not None and event.source.getRole() == pyatspi.ROLE_NOTIFICATION:
+            heard.append((event.type, event.source.name or ""))
+    except GLib.Error:  # an event of an object gone since, such as a closed message's text
+        pass
 
 
 def pump(seconds=1.0):

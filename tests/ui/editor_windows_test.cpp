@@ -173,6 +173,8 @@ private slots:
                               "Sono stati utilizzati uno o più caratteri non contemplati "
                               "dall'alfabeto italiano oppure caratteri numerici!"}));
         QCOMPARE(words(), QStringList({"ALBERO", "LUNA", "ZETA"}));
+        // Back on "Nuova parola" for the next word, not on the next button along.
+        QCOMPARE(QApplication::focusWidget(), button("Command3d2"));
 
         list()->setCurrentRow(1);
         list()->setFocus();

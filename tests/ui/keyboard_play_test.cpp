@@ -53,6 +53,11 @@ class KeyboardPlayTest : public QObject {
 
     QString text(const char* label) { return game->get<QLabel>(label)->text(); }
     QWidget* focused() { return QApplication::focusWidget(); }
+    // What the main window last gave the screen reader to say.
+    QString announced() {
+        auto* notice = game->window->findChild<QWidget*>("announcement");
+        return notice ? notice->accessibleName() : QString();
+    }
 
 private slots:
     void init() {
@@ -74,7 +79,9 @@ private slots:
         QTest::keyClicks(focused(), "caSz");
         QCOMPARE(text("Label1"), QString("CAS"));
         QCOMPARE(game->sounds.played.back(), std::string("beep"));
+        QCOMPARE(announced(), QString("Z: nessun dado"));
         key(Qt::Key_Backspace);
+        QCOMPARE(announced(), QString("CA")); // the word as it stands after the key
         QTest::keyClicks(focused(), "sa");
         QCOMPARE(text("Label1"), QString("CASA"));
         QVERIFY(game->window->state().cellaUsata[3]); // the shown path goes on along the row
@@ -102,6 +109,28 @@ private slots:
         game->get("Text1")->setFocus();
         QTest::keyClicks(focused(), "x");
         QCOMPARE(text("Label1"), QString("A"));
+    }
+
+    // F7 puts the focus in the name box, as it always did; closed during a match, the rules
+    // give the keys back to the board, and the next letter goes into the word, not the name.
+    void theRulesGiveTheKeysBackToTheBoard() {
+        QTest::keyClick(game->window.get(), Qt::Key_F2);
+        game->timer("Timer2")->stop();
+        game->setBoard("CASA");
+        QTest::keyClick(focused(), Qt::Key_F7);
+        MessageWindow* rules = game->window->messages().window();
+        QVERIFY(rules && rules->isVisible());
+        QCOMPARE(game->window->focusWidget(), game->get("Text1"));
+        // The window manager moves the activation to the rules and back when they close.
+        QApplication::setActiveWindow(rules);
+        QVERIFY(QTest::qWaitForWindowActive(rules));
+        rules->close();
+        QTRY_VERIFY(!game->window->messages().window());
+        QApplication::setActiveWindow(game->window.get());
+        QTRY_VERIFY(qobject_cast<DieCell*>(focused()));
+        QTest::keyClicks(focused(), "c");
+        QCOMPARE(text("Label1"), QString("C"));
+        QCOMPARE(game->get<QLineEdit>("Text1")->text(), QString("BRIVO"));
     }
 
     // The review's dice: the arrows move between them, Space keeps only the words through a die
