@@ -31,22 +31,6 @@ std::uint64_t boardHash(const SharedBoard& board) {
     return hash;
 }
 
-std::string_view trimmedBlanks(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
-// Control bytes and the five bytes Windows-1252 leaves undefined have no place in a page.
-bool printable(std::string_view bytes) {
-    for (const char c : bytes) {
-        const auto b = static_cast<unsigned char>(c);
-        if (b < 0x20 || b == 0x7F || b == 0x81 || b == 0x8D || b == 0x8F || b == 0x90 || b == 0x9D)
-            return false;
-    }
-    return true;
-}
-
 std::string codeProblem(CodeError error) {
     switch (error) {
     case CodeError::Empty:
@@ -165,10 +149,9 @@ CheckedChallenge checkChallenge(std::string_view query, const ChallengeDictionar
 
     ChallengeEntry entry;
     entry.codice = encodeBoard(board);
-    const std::string_view nome = trimmedBlanks(value["nome"]);
-    if (nome.empty()) return refused("Il nome è vuoto.");
-    if (nome.size() > kMaxNameBytes) return refused("Il nome supera i 30 caratteri.");
-    if (!printable(nome)) return refused("Il nome contiene caratteri non ammessi.");
+    // The same rules as a record's name: what the table shows must be visible and printable.
+    const std::string_view nome = trimmedView(value["nome"]);
+    if (const std::string problem = nameProblem(nome); !problem.empty()) return refused(problem);
     entry.nome = fromAnsi(nome);
     entry.giocatore = playerKey(entry.nome);
 

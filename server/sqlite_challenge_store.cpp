@@ -1,12 +1,21 @@
 // The challenge tables in SQLite (WAL, synchronous FULL): one writer and one reader connection.
 #include "server/sqlite_challenge_store.h"
 
+#include "server/sqlite_calls.h"
+
 #include <sqlite3.h>
 
 #include <stdexcept>
 
 namespace griglione {
 namespace {
+
+using sqlite::bindText;
+using sqlite::exec;
+using sqlite::fail;
+using sqlite::open;
+using sqlite::prepare;
+using sqlite::text;
 
 // One row per board and player. A better result takes a new row, so that the order of rows is
 // the order in which their points were reached.
@@ -20,45 +29,6 @@ CREATE TABLE sfida (
 CREATE INDEX sfida_tabella ON sfida (codice, punti DESC, id);
 PRAGMA user_version = 1;
 )";
-
-[[noreturn]] void fail(sqlite3* db, const std::string& what) {
-    throw std::runtime_error("Database delle sfide non utilizzabile (" + what +
-                             "): " + (db ? sqlite3_errmsg(db) : "memoria esaurita"));
-}
-
-void exec(sqlite3* db, const char* sql) {
-    if (sqlite3_exec(db, sql, nullptr, nullptr, nullptr) != SQLITE_OK) fail(db, sql);
-}
-
-sqlite3_stmt* prepare(sqlite3* db, const char* sql) {
-    sqlite3_stmt* statement = nullptr;
-    if (sqlite3_prepare_v3(db, sql, -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr) !=
-        SQLITE_OK)
-        fail(db, "istruzione SQL non valida");
-    return statement;
-}
-
-sqlite3* open(const std::filesystem::path& file, int flags) {
-    sqlite3* db = nullptr;
-    if (sqlite3_open_v2(file.c_str(), &db, flags | SQLITE_OPEN_NOMUTEX, nullptr) != SQLITE_OK) {
-        const std::string message = db ? sqlite3_errmsg(db) : "memoria esaurita";
-        sqlite3_close(db);
-        throw std::runtime_error("Impossibile aprire il database " + file.string() + ": " +
-                                 message);
-    }
-    sqlite3_busy_timeout(db, 5000);
-    return db;
-}
-
-void bindText(sqlite3_stmt* statement, int at, const std::string& text) {
-    sqlite3_bind_text(statement, at, text.data(), static_cast<int>(text.size()), SQLITE_STATIC);
-}
-
-std::string text(sqlite3_stmt* s, int column) {
-    const auto* bytes = reinterpret_cast<const char*>(sqlite3_column_text(s, column));
-    return bytes ? std::string(bytes, static_cast<std::size_t>(sqlite3_column_bytes(s, column)))
-                 : std::string();
-}
 
 // Runs a statement that returns no rows, then makes it ready for the next use.
 bool done(sqlite3_stmt* s) {
@@ -81,19 +51,7 @@ SqliteChallengeStore::SqliteChallengeStore(const std::filesystem::path& file) {
         m_writer = open(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
         exec(m_writer, "PRAGMA journal_mode = WAL");
         exec(m_writer, "PRAGMA synchronous = FULL");
-        exec(m_writer, "BEGIN IMMEDIATE");
-        sqlite3_stmt* version = prepare(m_writer, "PRAGMA user_version");
-        sqlite3_step(version);
-        const int found = sqlite3_column_int(version, 0);
-        sqlite3_finalize(version);
-        if (found > kChallengeSchemaVersion) {
-            exec(m_writer, "ROLLBACK");
-            throw std::runtime_error("Il database " + file.string() + " è della versione " +
-                                     std::to_string(found) +
-                                     " dello schema, più recente di questo programma.");
-        }
-        if (found == 0) exec(m_writer, kSchema);
-        exec(m_writer, "COMMIT");
+        sqlite::ensureSchema(m_writer, file, kSchema, kChallengeSchemaVersion);
         m_find = prepare(m_writer, "SELECT id, punti, parole FROM sfida WHERE codice=? AND "
                                    "giocatore=?");
         m_insert = prepare(m_writer, "INSERT INTO sfida (codice, giocatore, nome, punti, tempo, "

@@ -3,6 +3,8 @@
 
 #include "server/service_log.h"
 
+#include "server/sqlite_calls.h"
+
 #include <sqlite3.h>
 
 #include <future>
@@ -10,6 +12,13 @@
 
 namespace griglione {
 namespace {
+
+using sqlite::bindText;
+using sqlite::exec;
+using sqlite::fail;
+using sqlite::open;
+using sqlite::prepare;
+using sqlite::text;
 
 constexpr const char* kSchema = R"(
 CREATE TABLE record (
@@ -50,39 +59,6 @@ void checkpoint(sqlite3* db, int pages) {
 
 constexpr const char* kRowColumns = "id, nome, punti, note, data, ora";
 
-[[noreturn]] void fail(sqlite3* db, const std::string& what) {
-    throw std::runtime_error("Database non utilizzabile (" + what +
-                             "): " + (db ? sqlite3_errmsg(db) : "memoria esaurita"));
-}
-
-void exec(sqlite3* db, const char* sql) {
-    if (sqlite3_exec(db, sql, nullptr, nullptr, nullptr) != SQLITE_OK) fail(db, sql);
-}
-
-sqlite3_stmt* prepare(sqlite3* db, const std::string& sql) {
-    sqlite3_stmt* statement = nullptr;
-    if (sqlite3_prepare_v3(db, sql.c_str(), -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr) !=
-        SQLITE_OK)
-        fail(db, "Istruzione SQL non valida");
-    return statement;
-}
-
-sqlite3* open(const std::filesystem::path& file, int flags) {
-    sqlite3* db = nullptr;
-    if (sqlite3_open_v2(file.c_str(), &db, flags | SQLITE_OPEN_NOMUTEX, nullptr) != SQLITE_OK) {
-        const std::string message = db ? sqlite3_errmsg(db) : "memoria esaurita";
-        sqlite3_close(db);
-        throw std::runtime_error("Impossibile aprire il database " + file.string() + ": " +
-                                 message);
-    }
-    sqlite3_busy_timeout(db, 5000);
-    return db;
-}
-
-void bindText(sqlite3_stmt* statement, int at, const std::string& text) {
-    sqlite3_bind_text(statement, at, text.data(), static_cast<int>(text.size()), SQLITE_STATIC);
-}
-
 void bindRecord(sqlite3_stmt* s, const WorldRecord& r) {
     bindText(s, 1, r.nome);
     bindText(s, 2, r.programma);
@@ -93,12 +69,6 @@ void bindRecord(sqlite3_stmt* s, const WorldRecord& r) {
     bindText(s, 7, r.email);
     bindText(s, 8, r.ora);
     sqlite3_bind_int(s, 9, r.lingua);
-}
-
-std::string text(sqlite3_stmt* s, int column) {
-    const auto* bytes = reinterpret_cast<const char*>(sqlite3_column_text(s, column));
-    return bytes ? std::string(bytes, static_cast<std::size_t>(sqlite3_column_bytes(s, column)))
-                 : std::string();
 }
 
 // Reads the rows of a statement selecting kRowColumns, numbering them from `firstPlace`.
@@ -158,19 +128,7 @@ SqliteStore::SqliteStore(const std::filesystem::path& file, int readers) {
         sqlite3_wal_autocheckpoint(m_writer, 0);
         // A WAL that starts over after a checkpoint is cut back to this size.
         exec(m_writer, "PRAGMA journal_size_limit = 8388608");
-        exec(m_writer, "BEGIN IMMEDIATE");
-        sqlite3_stmt* version = prepare(m_writer, "PRAGMA user_version");
-        sqlite3_step(version);
-        const int found = sqlite3_column_int(version, 0);
-        sqlite3_finalize(version);
-        if (found > kSchemaVersion) {
-            exec(m_writer, "ROLLBACK");
-            throw std::runtime_error("Il database " + file.string() + " è della versione " +
-                                     std::to_string(found) +
-                                     " dello schema, più recente di questo programma.");
-        }
-        if (found == 0) exec(m_writer, kSchema);
-        exec(m_writer, "COMMIT");
+        sqlite::ensureSchema(m_writer, file, kSchema, kSchemaVersion);
         m_insert = prepare(m_writer, "INSERT OR IGNORE INTO record (nome, programma, data, punti, "
                                      "tempo, note, email, ora, lingua) VALUES (?,?,?,?,?,?,?,?,?)");
         // The same record sent again: each click on the game's link draws new "programma" letters

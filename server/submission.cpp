@@ -35,13 +35,6 @@ int digits(std::string_view text, std::size_t at, std::size_t count) {
     return *number(text.substr(at, count));
 }
 
-// A view into the request itself: the checks copy nothing until a record is kept.
-std::string_view trimmedView(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 // Control bytes and the five bytes Windows-1252 leaves undefined have no place in a page.
 bool printable(std::string_view bytes) {
     for (const char c : bytes) {
@@ -114,6 +107,19 @@ std::chrono::sys_days today() {
     return std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now());
 }
 
+std::string_view trimmedView(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string nameProblem(std::string_view nome) {
+    if (!visible(nome)) return "Il nome è vuoto.";
+    if (nome.size() > kMaxNameBytes) return "Il nome supera i 30 caratteri.";
+    if (!printable(nome)) return "Il nome contiene caratteri non ammessi.";
+    return {};
+}
+
 std::int32_t maxPunti(int tempo) {
     return validLength(tempo) ? tempo * 2000 : 0;
 }
@@ -142,9 +148,7 @@ Submission readSubmission(std::string_view query, std::chrono::sys_days now) {
 
     WorldRecord record;
     const std::string_view nome = trimmedView(value["Nome"]);
-    if (!visible(nome)) return refused("Il nome è vuoto.");
-    if (nome.size() > kMaxNameBytes) return refused("Il nome supera i 30 caratteri.");
-    if (!printable(nome)) return refused("Il nome contiene caratteri non ammessi.");
+    if (const std::string problem = nameProblem(nome); !problem.empty()) return refused(problem);
     record.nome = fromAnsi(nome);
 
     if (!programName(value["programma"]))

@@ -21,6 +21,14 @@ struct Submission {
     std::string errore; // when there is no record
 };
 
+// The text without blanks at either end: a view into the request itself, so the checks copy
+// nothing until a record is kept.
+std::string_view trimmedView(std::string_view text);
+
+// What is wrong, in Italian, with a name (already trimmed) that a page would show: empty, too
+// long, invisible (no-break spaces, a soft hyphen) or holding control bytes; "" when it is fine.
+std::string nameProblem(std::string_view nome);
+
 // The highest score a match of `tempo` seconds can hold: 2000 points (a ten-letter word) for
 // every second. A word of ten letters takes eleven presses, so this asks for eleven presses a
 // second held for the whole match, past the fastest typist. Zero for a length the game lacks.
