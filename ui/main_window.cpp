@@ -6,7 +6,6 @@
 #include "core/levels.h"
 #include "platform/fonts.h"
 #include "records/record_address.h"
-#include "ui/accessibility.h"
 #include "ui/alert_boxes.h"
 #include "ui/announcer.h"
 #include "ui/board_keys.h"
@@ -31,7 +30,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFocusEvent>
-#include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -153,23 +151,8 @@ void MainWindow::buildControls() {
 
     const QRect cell0 = twipsRect(kBoardLeft, kBoardTop, kDieTwips, kDieTwips);
     const auto frames = boardFrames({kBoardLeft, kBoardTop, kDieTwips, kDieTwips});
-    // The shadow first, under the frame: a black block of the frame's size, of which only the
-    // strip right of and below the frame shows. The frame is a black line around the dice.
-    const QRect framePixels = coveredPixels(frames[0]);
-    for (int i = 1; i >= 0; --i) {
-        auto* frame = new QFrame(area);
-        frame->setObjectName(QStringLiteral("Shape1_%1").arg(i));
-        frame->setGeometry(i == 0 ? framePixels
-                                  : QRect(coveredPixels(frames[1]).topLeft(), framePixels.size()));
-        frame->setFrameStyle(i == 0 ? QFrame::Box | QFrame::Plain : QFrame::NoFrame);
-        frame->setAutoFillBackground(i == 1);
-        QPalette fp = frame->palette();
-        fp.setColor(QPalette::WindowText, Qt::black);
-        fp.setColor(QPalette::Window, Qt::black);
-        frame->setPalette(fp);
-        markDecoration(frame);
-        m_frames[i] = frame;
-    }
+    const auto shapes = boardShapes(area, coveredPixels(frames[0]), coveredPixels(frames[1]));
+    m_frames = {shapes[0], shapes[1]};
     for (int n = 0; n < kCells; ++n) {
         auto* cell = new DieCell(n, area);
         cell->setGeometry(

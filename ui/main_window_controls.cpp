@@ -5,6 +5,9 @@
 #include "ui/colours.h"
 #include "ui/quiet_list.h"
 
+#include "ui/accessibility.h"
+
+#include <QFrame>
 #include <QIcon>
 #include <QLabel>
 #include <QListWidget>
@@ -21,6 +24,24 @@ QLabel* label(QWidget* parent, const char* name, const QString& text, const QRec
     l->setAlignment(Qt::AlignCenter);
     setColours(l, foreground, background);
     return l;
+}
+
+std::array<QFrame*, 2> boardShapes(QWidget* parent, const QRect& frame, const QRect& shadowCorner) {
+    std::array<QFrame*, 2> shapes{};
+    for (int i = 1; i >= 0; --i) {
+        auto* shape = new QFrame(parent);
+        shape->setObjectName(QStringLiteral("Shape1_%1").arg(i));
+        shape->setGeometry(i == 0 ? frame : QRect(shadowCorner.topLeft(), frame.size()));
+        shape->setFrameStyle(i == 0 ? QFrame::Box | QFrame::Plain : QFrame::NoFrame);
+        shape->setAutoFillBackground(i == 1);
+        QPalette palette = shape->palette();
+        palette.setColor(QPalette::WindowText, Qt::black);
+        palette.setColor(QPalette::Window, Qt::black);
+        shape->setPalette(palette);
+        markDecoration(shape);
+        shapes[i] = shape;
+    }
+    return shapes;
 }
 
 QListWidget* wordList(QWidget* parent, const char* name, const QRect& geometry,

@@ -10,9 +10,11 @@
 #include <QRect>
 #include <QString>
 
+#include <array>
 #include <string>
 #include <vector>
 
+class QFrame;
 class QLabel;
 class QListWidget;
 class QToolButton;
@@ -28,6 +30,11 @@ QListWidget* wordList(QWidget* parent, const char* name, const QRect& geometry,
 
 // Brings a word list up to `words`, which only grow during a match, and scrolls to the last.
 void showWords(QListWidget* list, const std::vector<std::string>& words);
+
+// The board's frame (a black line around the dice) and its shadow (a black block of the frame's
+// size whose top left is `shadowCorner`'s), the shadow made first so it lies under the frame.
+// Both are decoration, hidden from screen readers.
+std::array<QFrame*, 2> boardShapes(QWidget* parent, const QRect& frame, const QRect& shadowCorner);
 
 QToolButton* pictureButton(QWidget* parent, const char* name, const QString& text,
                            const QRect& geometry, const QIcon& picture);
