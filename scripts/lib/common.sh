@@ -3,7 +3,11 @@
 
 BUILD_PACKAGES=(cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev qt6-svg-dev libgtest-dev
     libgmock-dev qt6-tools-dev qt6-l10n-tools fonts-wine fonts-liberation pkg-config
-    libmicrohttpd-dev libsqlite3-dev nginx openssl curl)
+    libmicrohttpd-dev libsqlite3-dev)
+
+# Only the tests need these: the records service is tried behind a real nginx, which a player
+# who runs scripts/play should not get installed (and started) on their machine.
+TEST_PACKAGES=(nginx openssl curl)
 
 install_missing() {
     local missing=()
