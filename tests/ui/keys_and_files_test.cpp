@@ -305,17 +305,31 @@ private slots:
              {"COLLAPSE.WAV", "collapse.wav", "SND0002.wav", "SND0230.wav", "DOOLANE.WAV",
               "SHOOT1.WAV", "ROCHAN3.WAV", "perdi.wav", "vinci.wav", "explode2.wav", "SND0012.WAV"})
             QVERIFY2(fs::is_regular_file(resolveFileName(data, name)), name);
-        QFile page(QString::fromStdString((data / "GRIGLIONE.htm").string()));
-        QVERIFY(page.open(QIODevice::ReadOnly));
-        const QString html = QString::fromUtf8(page.readAll());
-        auto pictures = QRegularExpression("<img[^>]*\\ssrc=\"([^\"]+)\"").globalMatch(html);
-        QVERIFY(pictures.hasNext());
-        QStringList names = {"griglione.gif", "manina.gif"}; // the logo and the hand pointer
-        while (pictures.hasNext())
-            names << pictures.next().captured(1);
-        for (const QString& name : names)
-            QVERIFY2(!QImage(QString::fromStdString((data / name.toStdString()).string())).isNull(),
-                     qPrintable(name));
+        const auto image = [&](const QString& name) {
+            return QImage(QString::fromStdString((data / name.toStdString()).string()));
+        };
+        for (const char* name : {"griglione.gif", "manina.gif"}) // the logo and the hand pointer
+            QVERIFY2(!image(name).isNull(), name);
+        // Each page's pictures, and the twice-as-large one a sharp screen takes instead.
+        const QRegularExpression tag("<img\\s[^>]*>"), src("\\ssrc=\"([^\"]+)\"");
+        const QRegularExpression srcset("\\ssrcset=\"([^\"]*)\""), sharp("^[^ ]+ 2x$");
+        for (const char* pageName : {"GRIGLIONE.htm", "GRIGLIONE_en.htm"}) {
+            QFile page(QString::fromStdString((data / pageName).string()));
+            QVERIFY2(page.open(QIODevice::ReadOnly), pageName);
+            const QString html = QString::fromUtf8(page.readAll());
+            QVERIFY(tag.globalMatch(html).hasNext());
+            for (auto tags = tag.globalMatch(html); tags.hasNext();) {
+                const QString img = tags.next().captured(0);
+                const QImage plain = image(src.match(img).captured(1));
+                QVERIFY2(!plain.isNull(), qPrintable(img));
+                const auto set = srcset.match(img);
+                if (!set.hasMatch()) continue;
+                // Only "NAME 2x": twice the pixels of the picture it stands for.
+                QVERIFY2(sharp.match(set.captured(1)).hasMatch(), qPrintable(img));
+                QVERIFY2(image(set.captured(1).chopped(3)).size() == plain.size() * 2,
+                         qPrintable(img));
+            }
+        }
     }
 };
 
