@@ -70,23 +70,23 @@ std::string boardTable(const SharedBoard& board) {
     return html + "</tbody>\n</table>\n";
 }
 
-// "24-11-2026 08:15", in UTC.
-std::string receivedText(std::int64_t seconds) {
+// A time of reception in UTC, as `format` writes it.
+std::string utcText(std::int64_t seconds, const char* format) {
     const std::time_t time = static_cast<std::time_t>(seconds);
     std::tm parts{};
     gmtime_r(&time, &parts);
     char text[32];
-    std::strftime(text, sizeof text, "%d-%m-%Y %H:%M", &parts);
+    std::strftime(text, sizeof text, format, &parts);
     return text;
 }
 
+// "24-11-2026 08:15" for the page, "2026-11-24T08:15:00Z" for JSON.
+std::string receivedText(std::int64_t seconds) {
+    return utcText(seconds, "%d-%m-%Y %H:%M");
+}
+
 std::string receivedIso(std::int64_t seconds) {
-    const std::time_t time = static_cast<std::time_t>(seconds);
-    std::tm parts{};
-    gmtime_r(&time, &parts);
-    char text[32];
-    std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &parts);
-    return text;
+    return utcText(seconds, "%Y-%m-%dT%H:%M:%SZ");
 }
 
 std::string wordsCell(const std::string& packed) {
